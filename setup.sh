@@ -1,0 +1,62 @@
+#!/usr/bin/env bash
+# Sets up a fresh Debian machine for the game and builds it, then:
+#   ./setup.sh play   starts the game
+#   ./setup.sh test   runs every test suite, plainly and under the address and undefined sanitizers
+#   ./setup.sh build  only builds
+set -euo pipefail
+cd "$(dirname "$0")"
+
+packages=(
+  build-essential cmake ninja-build pkg-config clang-format
+  qt6-base-dev libqt6opengl6-dev qt6-multimedia-dev
+  libavformat-dev libavcodec-dev libavutil-dev libswscale-dev libswresample-dev ffmpeg
+  libsqlite3-dev sqlite3 libgtest-dev libgmock-dev libbenchmark-dev
+  xvfb xauth imagemagick x11-apps poppler-utils espeak-ng libespeak-ng-dev sox
+)
+
+install_missing() {
+  local missing=()
+  for p in "${packages[@]}"; do
+    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+  done
+  [ ${#missing[@]} -eq 0 ] && return
+  local sudo=""
+  [ "$(id -u)" -ne 0 ] && sudo=sudo
+  echo "Installing: ${missing[*]}"
+  $sudo apt-get update
+  DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y --no-install-recommends "${missing[@]}"
+}
+
+build() {  # build <dir> [cmake options...]
+  local dir=$1
+  shift
+  cmake -S . -B "$dir" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "$@" > /dev/null
+  cmake --build "$dir" -j "$(nproc)"
+}
+
+run_tests() {  # run_tests <dir>
+  ctest --test-dir "$1" --output-on-failure -j "$(nproc)" -LE soak
+}
+
+install_missing
+case "${1:-play}" in
+  build)
+    build build
+    ;;
+  play)
+    build build
+    exec ./build/hunt
+    ;;
+  test)
+    build build
+    run_tests build
+    export ASAN_OPTIONS=detect_leaks=0:abort_on_error=1
+    export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+    build build-asan -DHUNT_SANITIZE=ON -DHUNT_BUILD_BENCH=OFF
+    run_tests build-asan
+    ;;
+  *)
+    echo "usage: $0 [play|test|build]" >&2
+    exit 2
+    ;;
+esac
