@@ -8,19 +8,21 @@
 namespace platform {
 
 class Clock {
-public:
+ public:
   virtual ~Clock() = default;
   virtual rt::DateTime Now() = 0;
 };
 
 class SystemClock final : public Clock {
-public:
+ public:
   rt::DateTime Now() override;
 };
 
 template <>
 std::unique_ptr<Clock> Service<Clock>::makeDefault();
 
-inline Clock& clock() { return Service<Clock>::get(); }
+inline Clock& clock() {
+  return Service<Clock>::get();
+}
 
 }  // namespace platform

@@ -10,11 +10,26 @@
 namespace rt {
 namespace {
 
-const QDate kEpoch(1899, 12, 30);
+// 30 December 1899, as a function so that other files' static dates can use it safely.
+QDate epoch() {
+  return QDate::fromJulianDay(2415019);
+}
 constexpr long long kSecondsPerDay = 86400;
 
-long long toSeconds(DateTime date) { return std::llround(date * kSecondsPerDay); }
-DateTime fromSeconds(long long seconds) { return static_cast<double>(seconds) / kSecondsPerDay; }
+long long toSeconds(DateTime date) {
+  return std::llround(date * kSecondsPerDay);
+}
+// Whole days plus the fraction of the day, the same sum dateSerial + timeSerial makes, so
+// that every way of reaching a moment gives the same double.
+DateTime fromSeconds(long long seconds) {
+  long long days = seconds / kSecondsPerDay;
+  long long rest = seconds % kSecondsPerDay;
+  if (rest < 0) {
+    rest += kSecondsPerDay;
+    --days;
+  }
+  return static_cast<double>(days) + static_cast<double>(rest) / kSecondsPerDay;
+}
 
 long long wholeDays(DateTime date) {
   const long long s = toSeconds(date);
@@ -25,7 +40,9 @@ int secondOfDay(DateTime date) {
   return static_cast<int>(toSeconds(date) - wholeDays(date) * kSecondsPerDay);
 }
 
-QDate calendarDate(DateTime date) { return kEpoch.addDays(wholeDays(date)); }
+QDate calendarDate(DateTime date) {
+  return epoch().addDays(wholeDays(date));
+}
 
 QString clockText(DateTime date) {
   const int h = hour(date);
@@ -67,7 +84,7 @@ std::optional<int> parseTimeOfDay(const QString& text) {
 }  // namespace
 
 DateTime dateSerial(int y, int m, int d) {
-  return static_cast<double>(kEpoch.daysTo(QDate(y, m, d)));
+  return static_cast<double>(epoch().daysTo(QDate(y, m, d)));
 }
 
 DateTime timeSerial(int h, int n, int s) {
@@ -77,22 +94,41 @@ DateTime timeSerial(int h, int n, int s) {
 DateTime dateAdd(const QString& interval, double number, DateTime date) {
   const QString unit = interval.toLower();
   long long step = 0;
-  if (unit == u"d") step = kSecondsPerDay;
-  else if (unit == u"h") step = 3600;
-  else if (unit == u"n") step = 60;
-  else if (unit == u"s") step = 1;
-  else throw std::invalid_argument("unsupported DateAdd interval");
+  if (unit == u"d")
+    step = kSecondsPerDay;
+  else if (unit == u"h")
+    step = 3600;
+  else if (unit == u"n")
+    step = 60;
+  else if (unit == u"s")
+    step = 1;
+  else
+    throw std::invalid_argument("unsupported DateAdd interval");
   // DateAdd takes the whole part of the number, as the runtime does.
   return fromSeconds(toSeconds(date) + static_cast<long long>(std::trunc(number)) * step);
 }
 
-int weekday(DateTime date) { return calendarDate(date).dayOfWeek() % 7 + 1; }
-int year(DateTime date) { return calendarDate(date).year(); }
-int month(DateTime date) { return calendarDate(date).month(); }
-int day(DateTime date) { return calendarDate(date).day(); }
-int hour(DateTime date) { return secondOfDay(date) / 3600; }
-int minute(DateTime date) { return secondOfDay(date) / 60 % 60; }
-int second(DateTime date) { return secondOfDay(date) % 60; }
+int weekday(DateTime date) {
+  return calendarDate(date).dayOfWeek() % 7 + 1;
+}
+int year(DateTime date) {
+  return calendarDate(date).year();
+}
+int month(DateTime date) {
+  return calendarDate(date).month();
+}
+int day(DateTime date) {
+  return calendarDate(date).day();
+}
+int hour(DateTime date) {
+  return secondOfDay(date) / 3600;
+}
+int minute(DateTime date) {
+  return secondOfDay(date) / 60 % 60;
+}
+int second(DateTime date) {
+  return secondOfDay(date) % 60;
+}
 
 QString formatDate(DateTime date, const QString& format) {
   if (format == u"h:mm AMPM") return clockText(date);
@@ -120,7 +156,7 @@ std::optional<DateTime> parseDateTime(const QString& text) {
   if (!m.hasMatch()) {
     const auto time = parseTimeOfDay(text);
     if (!time) return std::nullopt;
-    return static_cast<double>(*time) / kSecondsPerDay;
+    return fromSeconds(*time);
   }
   const QDate d(expandYear(m.captured(3).toInt(), static_cast<int>(m.captured(3).size())),
                 m.captured(1).toInt(), m.captured(2).toInt());
@@ -132,7 +168,7 @@ std::optional<DateTime> parseDateTime(const QString& text) {
     if (!time) return std::nullopt;
     seconds = *time;
   }
-  return fromSeconds(kEpoch.daysTo(d) * kSecondsPerDay + seconds);
+  return fromSeconds(epoch().daysTo(d) * kSecondsPerDay + seconds);
 }
 
 }  // namespace rt

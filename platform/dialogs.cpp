@@ -46,7 +46,8 @@ Answer QtDialogs::MsgBox(const MessageBox& box) {
                      QApplication::activeWindow());
   const int pressed = dialog.exec();
   if (pressed == QMessageBox::Escape || pressed == 0)
-    return box.buttons == Buttons::Ok ? Answer::Ok : (box.buttons == Buttons::YesNo ? Answer::No : Answer::Cancel);
+    return box.buttons == Buttons::Ok ? Answer::Ok
+                                      : (box.buttons == Buttons::YesNo ? Answer::No : Answer::Cancel);
   return answerOf(pressed);
 }
 

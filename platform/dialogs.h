@@ -21,7 +21,7 @@ struct MessageBox {
 };
 
 class Dialogs {
-public:
+ public:
   virtual ~Dialogs() = default;
   // Shows the box modally and returns the button pressed. Texts are shown exactly as given,
   // line joins included.
@@ -30,14 +30,16 @@ public:
 
 // QMessageBox over the active window.
 class QtDialogs final : public Dialogs {
-public:
+ public:
   Answer MsgBox(const MessageBox& box) override;
 };
 
 template <>
 std::unique_ptr<Dialogs> Service<Dialogs>::makeDefault();
 
-inline Dialogs& dialogs() { return Service<Dialogs>::get(); }
+inline Dialogs& dialogs() {
+  return Service<Dialogs>::get();
+}
 
 inline Answer MsgBox(const QString& text, Buttons buttons = Buttons::Ok, Icon icon = Icon::None,
                      const QString& title = {}) {

@@ -14,9 +14,13 @@ QStringList components(const QString& path) {
   return path.split(kSeparators, Qt::SkipEmptyParts);
 }
 
-bool hasDrive(const QString& path) { return path.size() >= 2 && path[1] == u':' && path[0].isLetter(); }
+bool hasDrive(const QString& path) {
+  return path.size() >= 2 && path[1] == u':' && path[0].isLetter();
+}
 
-fs::path hostPath(const QString& text) { return fs::path(text.toStdString()); }
+fs::path hostPath(const QString& text) {
+  return fs::path(text.toStdString());
+}
 
 // The entry of `dir` whose name equals `name` without regard to case, else `name` itself.
 fs::path matchComponent(const fs::path& dir, const QString& name) {
@@ -37,9 +41,13 @@ QRegularExpression wildcard(const QString& pattern) {
 
 }  // namespace
 
-void Files::mapDrive(QChar letter, const fs::path& folder) { drives_[letter.toUpper()] = folder; }
+void Files::mapDrive(QChar letter, const fs::path& folder) {
+  drives_[letter.toUpper()] = folder;
+}
 
-void Files::clearDrives() { drives_.clear(); }
+void Files::clearDrives() {
+  drives_.clear();
+}
 
 std::optional<fs::path> Files::driveFolder(QChar letter) const {
   const auto it = drives_.find(letter.toUpper());

@@ -15,7 +15,7 @@
 namespace platform {
 
 class Files {
-public:
+ public:
   // Drive `letter` (any case) stands for `folder` from now on.
   void mapDrive(QChar letter, const std::filesystem::path& folder);
   void clearDrives();
@@ -34,13 +34,15 @@ public:
   // ignored, in the order the directory gives them.
   QStringList list(const QString& pattern) const;
 
-private:
+ private:
   std::map<QChar, std::filesystem::path> drives_;
 };
 
 template <>
 std::unique_ptr<Files> Service<Files>::makeDefault();
 
-inline Files& files() { return Service<Files>::get(); }
+inline Files& files() {
+  return Service<Files>::get();
+}
 
 }  // namespace platform

@@ -10,7 +10,7 @@
 namespace platform {
 
 class Random {
-public:
+ public:
   virtual ~Random() = default;
   virtual void Randomize() = 0;
   virtual double Rnd() = 0;
@@ -18,19 +18,23 @@ public:
 
 // The real generator; a fixed seed makes a run repeatable.
 class SeededRandom final : public Random {
-public:
+ public:
   explicit SeededRandom(uint64_t seed = 1) : engine_(seed) {}
   void Randomize() override;
   double Rnd() override;
 
-private:
+ private:
   std::mt19937_64 engine_;
 };
 
 template <>
 std::unique_ptr<Random> Service<Random>::makeDefault();
 
-inline Random& random() { return Service<Random>::get(); }
-inline double Rnd() { return random().Rnd(); }
+inline Random& random() {
+  return Service<Random>::get();
+}
+inline double Rnd() {
+  return random().Rnd();
+}
 
 }  // namespace platform

@@ -6,7 +6,9 @@
 
 namespace rt {
 
-double Int(double value) { return std::floor(value); }
+double Int(double value) {
+  return std::floor(value);
+}
 
 int16_t to16(double value) {
   if (!std::isfinite(value)) throw OverflowError();
@@ -38,7 +40,9 @@ QString numberText(long long value) {
   return value < 0 ? QString::number(value) : QLatin1Char(' ') + QString::number(value);
 }
 
-QString formatFixed2(double value) { return QString::number(value, 'f', 2); }
+QString formatFixed2(double value) {
+  return QString::number(value, 'f', 2);
+}
 
 double parseNumber(const QString& text) {
   const QString trimmed = text.trimmed();

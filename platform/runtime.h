@@ -12,13 +12,13 @@ namespace rt {
 
 // Raised when a value does not fit a 16-bit integer; the value is never stored.
 class OverflowError : public std::runtime_error {
-public:
+ public:
   OverflowError() : std::runtime_error("Overflow") {}
 };
 
 // Raised when a text cannot be read as the number a reader asked for.
 class TypeMismatch : public std::runtime_error {
-public:
+ public:
   TypeMismatch() : std::runtime_error("Type mismatch") {}
 };
 
@@ -28,20 +28,34 @@ double Int(double value);
 // Converts to a 16-bit integer, rounding halves to even; throws OverflowError when out of range.
 int16_t to16(double value);
 int16_t to16(long long value);
-inline int16_t to16(int value) { return to16(static_cast<long long>(value)); }
-inline int16_t to16(int16_t value) { return value; }
+inline int16_t to16(int value) {
+  return to16(static_cast<long long>(value));
+}
+inline int16_t to16(int16_t value) {
+  return value;
+}
 
 // Checked arithmetic on 16-bit integers: the result is range-checked before it is returned.
-inline int16_t add16(int a, int b) { return to16(static_cast<long long>(a) + b); }
-inline int16_t sub16(int a, int b) { return to16(static_cast<long long>(a) - b); }
-inline int16_t mul16(int a, int b) { return to16(static_cast<long long>(a) * b); }
+inline int16_t add16(int a, int b) {
+  return to16(static_cast<long long>(a) + b);
+}
+inline int16_t sub16(int a, int b) {
+  return to16(static_cast<long long>(a) - b);
+}
+inline int16_t mul16(int a, int b) {
+  return to16(static_cast<long long>(a) * b);
+}
 
 // Number-to-text: a blank stands where the sign would be for a non-negative number
 // (" 5", "-1", " 12.5"). Doubles keep up to 15 significant digits.
 QString numberText(double value);
 QString numberText(long long value);
-inline QString numberText(int value) { return numberText(static_cast<long long>(value)); }
-inline QString numberText(int16_t value) { return numberText(static_cast<long long>(value)); }
+inline QString numberText(int value) {
+  return numberText(static_cast<long long>(value));
+}
+inline QString numberText(int16_t value) {
+  return numberText(static_cast<long long>(value));
+}
 
 // Decimal text without the sign blank, as a number joined to a message reads.
 QString plainNumber(double value);

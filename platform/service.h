@@ -10,7 +10,7 @@ namespace platform {
 
 template <class Interface>
 class Service {
-public:
+ public:
   static Interface& get() {
     auto& current = slot();
     if (!current) current = makeDefault();
@@ -23,7 +23,7 @@ public:
     return next;
   }
 
-private:
+ private:
   static std::unique_ptr<Interface>& slot() {
     static std::unique_ptr<Interface> instance;
     return instance;
@@ -35,7 +35,7 @@ private:
 // Installs a double for the lifetime of a scope and restores the previous instance after.
 template <class Interface, class Double = Interface>
 class ScopedService {
-public:
+ public:
   template <class... Args>
   explicit ScopedService(Args&&... args) {
     auto made = std::make_unique<Double>(std::forward<Args>(args)...);
@@ -49,7 +49,7 @@ public:
   Double& operator*() const { return *double_; }
   Double* operator->() const { return double_; }
 
-private:
+ private:
   Double* double_ = nullptr;
   std::unique_ptr<Interface> previous_;
 };

@@ -10,7 +10,9 @@ QSettings store() {
   return QSettings(QSettings::IniFormat, QSettings::UserScope, kSettingsApp, kSettingsApp);
 }
 
-QString path(const QString& section, const QString& key) { return section + u'/' + key; }
+QString path(const QString& section, const QString& key) {
+  return section + u'/' + key;
+}
 
 }  // namespace
 

@@ -14,7 +14,7 @@ inline const QString kSettingsSection = QStringLiteral("Hunt");
 inline const QString kDriveSection = QStringLiteral("Drives");
 
 class SettingsStore {
-public:
+ public:
   virtual ~SettingsStore() = default;
   virtual QString GetSetting(const QString& section, const QString& key, const QString& fallback) = 0;
   virtual void SaveSetting(const QString& section, const QString& key, const QString& value) = 0;
@@ -23,7 +23,7 @@ public:
 
 // Backed by QSettings in the user's configuration folder (Hunting/Hunting.ini).
 class QtSettingsStore final : public SettingsStore {
-public:
+ public:
   QString GetSetting(const QString& section, const QString& key, const QString& fallback) override;
   void SaveSetting(const QString& section, const QString& key, const QString& value) override;
   bool HasSetting(const QString& section, const QString& key) override;
@@ -32,6 +32,8 @@ public:
 template <>
 std::unique_ptr<SettingsStore> Service<SettingsStore>::makeDefault();
 
-inline SettingsStore& settings() { return Service<SettingsStore>::get(); }
+inline SettingsStore& settings() {
+  return Service<SettingsStore>::get();
+}
 
 }  // namespace platform

@@ -13,20 +13,22 @@ inline constexpr int kOpenSucceeded = 42;
 inline constexpr int kOpenNoAssociation = 31;
 
 class ShellOpener {
-public:
+ public:
   virtual ~ShellOpener() = default;
   virtual int ShellExecute(const QString& target) = 0;
 };
 
 // QDesktopServices: local paths open as files, anything with a scheme as an address.
 class DesktopShellOpener final : public ShellOpener {
-public:
+ public:
   int ShellExecute(const QString& target) override;
 };
 
 template <>
 std::unique_ptr<ShellOpener> Service<ShellOpener>::makeDefault();
 
-inline ShellOpener& shellOpener() { return Service<ShellOpener>::get(); }
+inline ShellOpener& shellOpener() {
+  return Service<ShellOpener>::get();
+}
 
 }  // namespace platform

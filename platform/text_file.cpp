@@ -9,7 +9,9 @@
 namespace rt {
 namespace {
 
-bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
+bool isLineEnd(char c) {
+  return c == '\r' || c == '\n';
+}
 
 }  // namespace
 
@@ -25,7 +27,9 @@ ListInput ListInput::fromBytes(QByteArray bytes) {
   return in;
 }
 
-bool ListInput::eof() const { return pos_ >= data_.size(); }
+bool ListInput::eof() const {
+  return pos_ >= data_.size();
+}
 
 void ListInput::skipBlanks() {
   while (pos_ < data_.size() && (data_[pos_] == ' ' || data_[pos_] == '\t')) ++pos_;
@@ -68,9 +72,13 @@ QString ListInput::inputString() {
   return QString::fromUtf8(field);
 }
 
-int16_t ListInput::inputInt16() { return to16(parseNumber(inputString())); }
+int16_t ListInput::inputInt16() {
+  return to16(parseNumber(inputString()));
+}
 
-double ListInput::inputDouble() { return parseNumber(inputString()); }
+double ListInput::inputDouble() {
+  return parseNumber(inputString());
+}
 
 DateTime ListInput::inputDate() {
   const auto date = parseDateTime(inputString());
@@ -88,16 +96,22 @@ QString ListInput::lineInput() {
   return QString::fromUtf8(line);
 }
 
-void PrintFile::print(long long value) { print(numberText(value)); }
+void PrintFile::print(long long value) {
+  print(numberText(value));
+}
 
-void PrintFile::print(double value) { print(numberText(value)); }
+void PrintFile::print(double value) {
+  print(numberText(value));
+}
 
 void PrintFile::print(const QString& text) {
   data_ += text.toUtf8();
   data_ += "\r\n";
 }
 
-void PrintFile::printDate(DateTime value) { print(saveDateText(value)); }
+void PrintFile::printDate(DateTime value) {
+  print(saveDateText(value));
+}
 
 void PrintFile::commit(const std::filesystem::path& path) const {
   QSaveFile file(QString::fromStdString(path.string()));

@@ -16,18 +16,18 @@ namespace rt {
 
 // Reading beyond the last field: the readers' error handlers stop there.
 class InputPastEnd : public std::runtime_error {
-public:
+ public:
   InputPastEnd() : std::runtime_error("Input past end of file") {}
 };
 
 // Opening a file that is not there.
 class FileNotFound : public std::runtime_error {
-public:
+ public:
   explicit FileNotFound(const std::string& path) : std::runtime_error("File not found: " + path) {}
 };
 
 class ListInput {
-public:
+ public:
   // Reads the whole file at once; throws FileNotFound when it cannot be opened.
   explicit ListInput(const std::filesystem::path& path);
   static ListInput fromBytes(QByteArray bytes);
@@ -44,7 +44,7 @@ public:
   QString lineInput();
   bool eof() const;
 
-private:
+ private:
   ListInput() = default;
   void skipBlanks();
   void finishField();
@@ -55,7 +55,7 @@ private:
 // Collects printed lines and writes them safely: into a temporary file beside the target,
 // renamed over it only when every byte is on disk, so a failed save leaves the old file.
 class PrintFile {
-public:
+ public:
   void print(long long value);
   void print(int16_t value) { print(static_cast<long long>(value)); }
   void print(int value) { print(static_cast<long long>(value)); }
@@ -67,7 +67,7 @@ public:
   // Throws std::runtime_error naming the file when it cannot be written.
   void commit(const std::filesystem::path& path) const;
 
-private:
+ private:
   QByteArray data_;
 };
 

@@ -8,7 +8,7 @@
 namespace platform {
 
 class FakeClock final : public Clock {
-public:
+ public:
   explicit FakeClock(rt::DateTime start = rt::dateSerial(1997, 12, 22) + 0.25, double stepSeconds = 0.1)
       : now_(start), step_(stepSeconds / 86400.0) {}
 
@@ -21,7 +21,7 @@ public:
   void set(rt::DateTime value) { now_ = value; }
   int readings() const { return readings_; }
 
-private:
+ private:
   rt::DateTime now_;
   double step_;
   int readings_ = 0;

@@ -9,7 +9,7 @@
 namespace platform {
 
 class MemorySettings final : public SettingsStore {
-public:
+ public:
   QString GetSetting(const QString& section, const QString& key, const QString& fallback) override {
     return values_.value(section + u'/' + key, fallback);
   }
@@ -20,7 +20,7 @@ public:
     return values_.contains(section + u'/' + key);
   }
 
-private:
+ private:
   QMap<QString, QString> values_;
 };
 

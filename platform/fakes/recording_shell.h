@@ -9,7 +9,7 @@
 namespace platform {
 
 class RecordingShell final : public ShellOpener {
-public:
+ public:
   explicit RecordingShell(int result = kOpenSucceeded) : result_(result) {}
   int ShellExecute(const QString& target) override {
     opened_ << target;
@@ -17,7 +17,7 @@ public:
   }
   const QStringList& opened() const { return opened_; }
 
-private:
+ private:
   int result_;
   QStringList opened_;
 };

@@ -10,7 +10,7 @@
 namespace platform {
 
 class ScriptedDialogs final : public Dialogs {
-public:
+ public:
   // A box with only OK is answered OK without a script; a question takes the next scripted
   // answer and throws std::logic_error when there is none.
   Answer MsgBox(const MessageBox& box) override;
@@ -20,7 +20,7 @@ public:
   const MessageBox& last() const { return shown_.back(); }
   void clear() { shown_.clear(); }
 
-private:
+ private:
   std::deque<Answer> answers_;
   std::vector<MessageBox> shown_;
 };

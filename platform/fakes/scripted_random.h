@@ -10,7 +10,7 @@
 namespace platform {
 
 class ScriptedRandom final : public Random {
-public:
+ public:
   ScriptedRandom() = default;
   ScriptedRandom(std::initializer_list<double> values) : values_(values) {}
 
@@ -24,7 +24,7 @@ public:
   int draws() const { return draws_; }
   size_t remaining() const { return values_.size(); }
 
-private:
+ private:
   std::deque<double> values_;
   int randomizeCalls_ = 0;
   int draws_ = 0;

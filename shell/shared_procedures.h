@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// Small procedures every screen shares: opening web pages, the busy wait, and switching
+// the hunting screen's timer around modal screens.
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class QWidget;
+
+// Opens `target` with the desktop's program for it and explains a failure in message boxes.
+// Returns the shell's result: above 32 is success.
+int OpenWebPage(QWidget* owner, const QString& target);
+
+// Waits, without yielding to the event loop, until the time of day has moved on by more
+// than `n` millionths of a day (86.4 ms each).
+void WaitTicks(int n);
+
+// The hunting screen tells the shell how its timer is switched (creating the screen first
+// when needed); the shell library cannot see that screen.
+void setHuntTimerSwitch(std::function<void(bool on)> onOff);
+void StartHuntTimer();
+void StopHuntTimer();
