@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // The game's entry point.
-#include <QApplication>
+#include "app/error_handler.h"
 
 int main(int argc, char** argv) {
-  QApplication app(argc, argv);
+  GameApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Hunting"));
   return 0;
 }
