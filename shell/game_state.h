@@ -42,6 +42,7 @@ struct GameState {
   QString ResCode2 = QStringLiteral("1");
   QString ScreenState;
   int16_t VideoBusy = 0;
+  QString HelpFile;  // the game's help pages, opened by F1
 
   // The game, all saved.
   std::array<int16_t, kEquipSlotCount> EquipSlots{};

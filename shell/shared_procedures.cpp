@@ -13,6 +13,11 @@ std::function<void(bool)>& huntTimerSwitch() {
   return onOff;
 }
 
+std::function<void()>& huntClockDisplay() {
+  static std::function<void()> refresh;
+  return refresh;
+}
+
 void errorBox(const QString& text, platform::Icon icon) {
   platform::MsgBox(text, platform::Buttons::Ok, icon, QStringLiteral("Error Message"));
 }
@@ -59,4 +64,12 @@ void StartHuntTimer() {
 
 void StopHuntTimer() {
   if (huntTimerSwitch()) huntTimerSwitch()(false);
+}
+
+void setHuntClockDisplay(std::function<void()> refresh) {
+  huntClockDisplay() = std::move(refresh);
+}
+
+void RefreshHuntClock() {
+  if (huntClockDisplay()) huntClockDisplay()();
 }

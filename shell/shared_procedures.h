@@ -22,3 +22,7 @@ void WaitTicks(int n);
 void setHuntTimerSwitch(std::function<void(bool on)> onOff);
 void StartHuntTimer();
 void StopHuntTimer();
+
+// The hunting screen shows the game clock; the main menu refreshes it after a load.
+void setHuntClockDisplay(std::function<void()> refresh);
+void RefreshHuntClock();
