@@ -5,6 +5,8 @@
 #include "platform/media/media_log.h"
 #include "platform/media/playback_clock.h"
 
+#include <algorithm>
+
 namespace platform {
 
 AVSource::AVSource(QObject* parent) : RdxSource(QStringLiteral("RDXCOM.AVSource"), parent) {}
@@ -75,7 +77,8 @@ void AVSource::Stop() {
 
 void AVSource::advance(int64_t now) {
   if (state_ != kPlaying) return;
-  frames_->take(timeline_.position(now), shown_);
+  // The range ends before `to`: a picture due exactly then belongs to what follows.
+  frames_->take(std::min(timeline_.position(now), timeline_.to() - 1), shown_);
   if (!timeline_.reachedEnd(now)) return;
   if (output_) output_->stop();
   state_ = kFinished;
