@@ -12,6 +12,7 @@ extern "C" {
 }
 
 #include <cmath>
+#include <cstring>
 #include <stdexcept>
 
 namespace platform {
@@ -97,13 +98,23 @@ void openAudio(ClipWriter& w) {
   w.audioStream->time_base = w.audio->time_base;
 }
 
+void paintPicture(QImage& picture, int index, bool detailed) {
+  picture.fill(testClipColour(index));
+  if (!detailed) return;
+  for (int y = 0; y < picture.height(); ++y) {
+    auto* row = reinterpret_cast<QRgb*>(picture.scanLine(y));
+    for (int x = 0; x < picture.width(); ++x)
+      row[x] = qRgb((x * 7 + index * 5) & 0xff, (y * 3 + x * x / 16) & 0xff, ((x ^ y) * 13 + index) & 0xff);
+  }
+}
+
 void writePictures(ClipWriter& w, const TestClip& clip) {
   SwsContext* scaler =
       sws_getContext(clip.size.width(), clip.size.height(), AV_PIX_FMT_BGRA, clip.size.width(),
                      clip.size.height(), AV_PIX_FMT_YUVJ420P, SWS_POINT, nullptr, nullptr, nullptr);
   QImage picture(clip.size, QImage::Format_RGB32);
   for (int i = 0; i < clip.frames; ++i) {
-    picture.fill(testClipColour(i));
+    paintPicture(picture, i, clip.detailed);
     AVFrame* frame = av_frame_alloc();
     frame->format = AV_PIX_FMT_YUVJ420P;
     frame->width = clip.size.width();

@@ -18,6 +18,9 @@ struct TestClip {
   int fps = 25;
   QSize size{320, 240};
   bool withSound = false;
+  // Pictures with detail (a moving pattern over the flat colour), so decoding costs what a
+  // real clip's does.
+  bool detailed = false;
 };
 
 // The flat colour of picture `index`: its red channel counts up in steps of 20.
