@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// A panorama's pixels laid out for the renderer: one column of wrap-around on the right and
+// a copy of the first and last rows above and below, so bilinear reads never need a bounds test.
+#pragma once
+
+#include <QImage>
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace platform {
+
+class PanoramaImage {
+ public:
+  explicit PanoramaImage(const QImage& image);
+
+  int width() const { return width_; }
+  int height() const { return height_; }
+  // Pixels per stored row: the image width plus the wrap-around column.
+  std::ptrdiff_t stride() const { return width_ + 1; }
+  // Row -1 of the image (the copy of row 0); rows run to `height` (the copy of the last row).
+  const uint32_t* paddedRows() const { return pixels_.data(); }
+  // 0xffRRGGBB of image pixel (x, y), for callers outside the hot path.
+  uint32_t pixel(int x, int y) const { return pixels_[static_cast<size_t>(y + 1) * stride() + x]; }
+
+ private:
+  int width_ = 0;
+  int height_ = 0;
+  std::vector<uint32_t> pixels_;
+};
+
+}  // namespace platform
