@@ -85,14 +85,16 @@ void openVideo(ClipWriter& w, const TestClip& clip) {
   w.videoStream->time_base = w.video->time_base;
 }
 
-void openAudio(ClipWriter& w) {
-  const AVCodec* codec = avcodec_find_encoder(AV_CODEC_ID_PCM_S16LE);
+// Mono, so the planar and packed sample layouts are the same bytes.
+void openAudio(ClipWriter& w, AVCodecID id) {
+  const AVCodec* codec = avcodec_find_encoder(id);
+  check(codec, "no sound encoder");
   w.audio = avcodec_alloc_context3(codec);
   w.audio->sample_rate = 22050;
-  w.audio->sample_fmt = AV_SAMPLE_FMT_S16;
+  w.audio->sample_fmt = codec->sample_fmts ? codec->sample_fmts[0] : AV_SAMPLE_FMT_S16;
   av_channel_layout_default(&w.audio->ch_layout, 1);
   w.audio->time_base = AVRational{1, 22050};
-  check(avcodec_open2(w.audio, codec, nullptr) >= 0, "open PCM encoder");
+  check(avcodec_open2(w.audio, codec, nullptr) >= 0, "open sound encoder");
   w.audioStream = avformat_new_stream(w.format, nullptr);
   avcodec_parameters_from_context(w.audioStream->codecpar, w.audio);
   w.audioStream->time_base = w.audio->time_base;
@@ -131,14 +133,15 @@ void writePictures(ClipWriter& w, const TestClip& clip) {
   w.send(w.video, w.videoStream, nullptr);
 }
 
-void writeSound(ClipWriter& w, const TestClip& clip) {
-  const int samples = 22050 * clip.frames / clip.fps;
-  const QByteArray tone = toneSamples(samples, 1, 22050);
-  constexpr int kChunk = 1024;
-  for (int at = 0; at < samples; at += kChunk) {
+// Encoders with a fixed frame size get whole frames, the last one padded with silence.
+void writeSound(ClipWriter& w, int samples) {
+  const int chunk = w.audio->frame_size > 0 ? w.audio->frame_size : 1024;
+  QByteArray tone = toneSamples(samples, 1, 22050);
+  tone.resize((samples + chunk - 1) / chunk * chunk * 2, '\0');
+  for (int at = 0; at < samples; at += chunk) {
     AVFrame* frame = av_frame_alloc();
-    frame->format = AV_SAMPLE_FMT_S16;
-    frame->nb_samples = std::min(kChunk, samples - at);
+    frame->format = w.audio->sample_fmt;
+    frame->nb_samples = w.audio->frame_size > 0 ? chunk : std::min(chunk, samples - at);
     av_channel_layout_default(&frame->ch_layout, 1);
     frame->sample_rate = 22050;
     av_frame_get_buffer(frame, 0);
@@ -171,6 +174,17 @@ void writeTestWav(const std::filesystem::path& file, int ms, int rate, int chann
   check(out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size(), "write WAV");
 }
 
+void writeTestAdpcmWav(const std::filesystem::path& file, int ms) {
+  av_log_set_level(AV_LOG_ERROR);
+  ClipWriter w;
+  check(avformat_alloc_output_context2(&w.format, nullptr, "wav", file.string().c_str()) >= 0, "WAV muxer");
+  openAudio(w, AV_CODEC_ID_ADPCM_IMA_WAV);
+  check(avio_open(&w.format->pb, file.string().c_str(), AVIO_FLAG_WRITE) >= 0, "open output");
+  check(avformat_write_header(w.format, nullptr) >= 0, "write header");
+  writeSound(w, 22050 * ms / 1000);
+  check(av_write_trailer(w.format) >= 0, "write trailer");
+}
+
 QColor testClipColour(int index) {
   return QColor(std::min(20 * index, 255), 60, 200);
 }
@@ -184,11 +198,11 @@ void writeTestClip(const std::filesystem::path& file, const TestClip& clip) {
   ClipWriter w;
   check(avformat_alloc_output_context2(&w.format, nullptr, "avi", file.string().c_str()) >= 0, "AVI muxer");
   openVideo(w, clip);
-  if (clip.withSound) openAudio(w);
+  if (clip.withSound) openAudio(w, AV_CODEC_ID_PCM_S16LE);
   check(avio_open(&w.format->pb, file.string().c_str(), AVIO_FLAG_WRITE) >= 0, "open output");
   check(avformat_write_header(w.format, nullptr) >= 0, "write header");
   writePictures(w, clip);
-  if (clip.withSound) writeSound(w, clip);
+  if (clip.withSound) writeSound(w, 22050 * clip.frames / clip.fps);
   check(av_write_trailer(w.format) >= 0, "write trailer");
 }
 

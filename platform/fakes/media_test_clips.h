@@ -13,6 +13,9 @@ namespace platform {
 // Writes a 16-bit PCM WAV of `ms` milliseconds of a quiet tone.
 void writeTestWav(const std::filesystem::path& file, int ms, int rate = 22050, int channels = 1);
 
+// Writes a mono IMA ADPCM WAV of about `ms` milliseconds (whole encoder blocks).
+void writeTestAdpcmWav(const std::filesystem::path& file, int ms);
+
 struct TestClip {
   int frames = 10;
   int fps = 25;

@@ -62,6 +62,19 @@ TEST_F(MediaWindowTest, FileThatWillNotDecodeIsAnInvalidFile) {
   EXPECT_EQ(errors.at(0).at(0).toInt(), kMediaInvalidFile);
 }
 
+TEST_F(MediaWindowTest, AdpcmSoundOpensWithItsLengthAndPlaysToItsEnd) {
+  const QString file = path("call.wav");
+  writeTestAdpcmWav(file.toStdString(), 1000);
+  window.setFileName(file);
+  ASSERT_EQ(errors.count(), 0);
+  EXPECT_GE(window.length(), 1000);
+  EXPECT_LT(window.length(), 1100);  // padded to whole blocks
+  window.command("play");
+  clock->advance(window.length());
+  window.poll();
+  EXPECT_EQ(window.mode(), kModeStopped);
+}
+
 TEST_F(MediaWindowTest, UnknownCommandIsReportedAsAnError) {
   window.setFileName(wav(500));
   EXPECT_EQ(window.command("rewind"), kMediaUnrecognizedCommand);
