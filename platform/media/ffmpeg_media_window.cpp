@@ -59,7 +59,10 @@ int FfmpegMediaWindow::command(const QString& text) {
 
 int FfmpegMediaWindow::run(const MediaCommand& command) {
   using Verb = MediaCommand::Verb;
-  if (command.verb == Verb::Close) return close(), 0;
+  if (command.verb == Verb::Close) {
+    close();
+    return 0;
+  }
   // Without an open file there is nothing to drive; the open already reported why.
   if (mode_ == kModeNotReady) return kMediaDeviceNotReady;
   switch (command.verb) {

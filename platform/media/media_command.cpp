@@ -37,13 +37,17 @@ bool readPosition(const QStringList& words, qsizetype& i, std::optional<int64_t>
 
 bool readOption(const QStringList& words, qsizetype& i, MediaCommand& command) {
   const QString word = words[i].toLower();
-  if (word == "wait") return command.wait = true;
+  if (word == "wait") {
+    command.wait = true;
+    return true;
+  }
   if (word == "notify") return true;  // events are raised anyway
   if (word == "from") return readPosition(words, i, command.from);
   if (word == "to") {
     if (i + 1 < words.size() && words[i + 1].compare("start", Qt::CaseInsensitive) == 0) {
       command.to = 0;
-      return ++i, true;
+      ++i;
+      return true;
     }
     return readPosition(words, i, command.to);
   }
