@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // The media window on real files with no sound device: errors, modes, ranges and pictures,
 // timed by a hand-driven clock.
+#include "platform/fakes/media_fake_window.h"
 #include "platform/fakes/media_manual_clock.h"
 #include "platform/fakes/media_test_clips.h"
 #include "platform/media/audio_output.h"
@@ -113,6 +114,20 @@ TEST_F(MediaWindowTest, PausedTimeDoesNotCountAndStopKeepsThePosition) {
   EXPECT_EQ(modesSeen().back(), kModeStopped);
 }
 
+TEST_F(MediaWindowTest, PlayOnAPausedWindowGoesOnFromThereAndSeekGoesBack) {
+  window.setFileName(wav(2000));
+  window.command("Play");
+  clock->advance(400);
+  window.command("pause wait");
+  window.command("play");
+  EXPECT_EQ(window.position(), 400);
+  clock->advance(100);
+  EXPECT_EQ(window.position(), 500);
+  window.command("seek to start");
+  EXPECT_EQ(window.mode(), kModeStopped);
+  EXPECT_EQ(window.position(), 0);
+}
+
 TEST_F(MediaWindowTest, RangePlaysExactlyToItsEnd) {
   window.setFileName(wav(3000));
   window.command("PLAY From 200 to 700");
@@ -184,6 +199,20 @@ TEST_F(MediaWindowTest, ClipShowsThePictureDueAndPlaysItsSound) {
   window.poll();
   EXPECT_EQ(window.mode(), kModeStopped);
   EXPECT_EQ(testClipIndex(window.grab().toImage().pixelColor(32, 24)), 9);
+}
+
+TEST(FakeMediaWindows, ScreensGetFakesThatRecordWhatTheySend) {
+  ScopedService<MediaWindows, FakeMediaWindows> windows;
+  std::unique_ptr<MCIWnd> made(createMediaWindow(nullptr));
+  ASSERT_EQ(made.get(), windows->last());
+  QSignalSpy modes(made.get(), &MCIWnd::ExtendedModeChange);
+  made->setFileName("D:\\art\\intro.avi");
+  made->command("PLAY From 0 to 10");
+  windows->last()->raiseModeChange(kModePaused);
+  EXPECT_EQ(windows->last()->log(), (QStringList{"file D:\\art\\intro.avi", "PLAY From 0 to 10"}));
+  EXPECT_EQ(windows->last()->commands(), QStringList{"PLAY From 0 to 10"});
+  ASSERT_EQ(modes.count(), 1);
+  EXPECT_EQ(made->mode(), kModePaused);
 }
 
 }  // namespace

@@ -88,6 +88,21 @@ TEST_F(MixerClipTest, StateTurnsToFinishedWithTheLastPictureWhenTheClipEnds) {
   EXPECT_EQ(clip->getstate(), AVSource::kFinished);
 }
 
+TEST_F(MixerClipTest, LongJumpPastEveryDecodedPictureStillLandsOnTheRightOne) {
+  const QString longClip = dir.filePath("long.avi");
+  writeTestClip(longClip.toStdString(), TestClip{.frames = 12, .fps = 10, .size = {32, 24}});
+  ASSERT_TRUE(clip->Load(longClip));
+  clip->Play();
+  frameAfter(1050);  // far more pictures than are decoded ahead
+  EXPECT_EQ(clip->GetCurrentTime(), 1000);
+  EXPECT_EQ(pictureOnScreen(), 10);
+  ASSERT_TRUE(clip->Load(clipPath));  // a new clip while one plays
+  EXPECT_EQ(clip->getstate(), AVSource::kIdle);
+  EXPECT_EQ(pictureOnScreen(), 10);  // the surface changes only at the next frame
+  mixer.frame();
+  EXPECT_EQ(pictureOnScreen(), 0);
+}
+
 TEST_F(MixerClipTest, RangeStartsAtThePictureOnScreenThere) {
   ASSERT_TRUE(clip->Load(clipPath));
   clip->Play(250, 300);

@@ -5,6 +5,7 @@
 #include "platform/mixer/compositor.h"
 #include "platform/mixer/data_sprite.h"
 #include "platform/mixer/image_sequence.h"
+#include "platform/mixer/member_call.h"
 #include "platform/mixer/scale_effect.h"
 #include "platform/mixer/single_image.h"
 
@@ -155,6 +156,26 @@ TEST_F(MixerSceneTest, ImageSequenceShowsTheCurrentElementCutFromAStrip) {
   frames->setCurrentImageNumber(7);               // out of range shows nothing
   mixer.draw();
   EXPECT_EQ(mixer.surface().pixel(5, 5), kBack);
+}
+
+TEST_F(MixerSceneTest, SightSequenceShowsItselfWhenPlacedAndIsDrivenByName) {
+  QImage strip(4, 2, QImage::Format_RGB32);
+  strip.fill(kRed);
+  strip.setPixel(2, 0, kGreen);
+  auto* picture = mixer.create<SingleImage>("RDXCOM.SingleImage");
+  picture->setImage(strip);
+  auto* sight = mixer.create<ImageSequence>("RDXCOM.ImageSequence");
+  callMember(sight, "initialize", {2});
+  callMember(sight, "setElementAt", {0, QVariant::fromValue<QObject*>(picture), 0, 0, 2, 2});
+  callMember(sight, "setElementAt", {1, QVariant::fromValue<QObject*>(picture), 2, 0, 2, 2});
+  callMember(sight, "setPosition", {30, 20, 99});
+  mixer.draw();
+  EXPECT_EQ(mixer.surface().pixel(30, 20), kBack);  // hidden until shown
+  callMember(sight, "Show", {true});
+  callMember(sight, "setCurrentImageNumber", {1});
+  mixer.draw();
+  EXPECT_EQ(mixer.surface().pixel(30, 20), kGreen);
+  EXPECT_EQ(mixer.surface().pixel(31, 20), kRed);
 }
 
 TEST_F(MixerSceneTest, ReleasedImageLeavesItsSpriteEmpty) {
