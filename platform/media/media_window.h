@@ -26,7 +26,8 @@ class MCIWnd : public QWidget {
   using QWidget::QWidget;
 
   // Opens a game path ("D:\sound\shot1.wav"); an empty name closes. A file that is missing
-  // or will not decode raises Error and leaves the window closed.
+  // or will not decode raises Error and leaves the window closed. A good file reports the
+  // stopped mode at once, before any play, as the device does while a clip opens.
   virtual void setFileName(const QString& gamePath) = 0;
   virtual QString fileName() const = 0;
   // Carries out a command string; returns 0 or a media error number. Positions are in
