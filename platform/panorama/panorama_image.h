@@ -7,7 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
+#include <memory>
 
 namespace platform {
 
@@ -20,14 +20,17 @@ class PanoramaImage {
   // Pixels per stored row: the image width plus the wrap-around column.
   std::ptrdiff_t stride() const { return width_ + 1; }
   // Row -1 of the image (the copy of row 0); rows run to `height` (the copy of the last row).
-  const uint32_t* paddedRows() const { return pixels_.data(); }
+  const uint32_t* paddedRows() const { return pixels_.get(); }
   // 0xffRRGGBB of image pixel (x, y), for callers outside the hot path.
   uint32_t pixel(int x, int y) const { return pixels_[static_cast<size_t>(y + 1) * stride() + x]; }
 
  private:
   int width_ = 0;
   int height_ = 0;
-  std::vector<uint32_t> pixels_;
+  struct Release {
+    void operator()(uint32_t* p) const;
+  };
+  std::unique_ptr<uint32_t[], Release> pixels_;
 };
 
 }  // namespace platform

@@ -34,7 +34,8 @@ class PanoramaRenderer {
 
   void buildTables(const TableKey& key);
   void prepareFrame(const PanoramaImage& image, const PanoramaView& view);
-  void renderRow(const PanoramaImage& image, uint32_t* out);
+  // Columns [first, last) of the next view row.
+  void renderSpan(const PanoramaImage& image, int first, int last, uint32_t* out);
 
   TableKey key_;
   std::vector<double> columnOffset_;  // image columns from the view's centre column
