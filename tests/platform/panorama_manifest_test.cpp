@@ -5,6 +5,8 @@
 #include "platform/files.h"
 #include "platform/panorama_fixture.h"
 
+#include <QRandomGenerator>
+
 #include <gtest/gtest.h>
 
 namespace platform {
@@ -88,6 +90,22 @@ TEST(PanoramaManifest, HotspotsMayCrossTheSeamButNotLeaveTheImage) {
   EXPECT_EQ(checkHotspotBounds(manifest, 100, 10), "");
   EXPECT_EQ(checkHotspotBounds(manifest, 100, 9), "hotspot ^a: point 110,10 lies outside the 100 x 9 image");
   EXPECT_NE(checkHotspotBounds(manifest, 50, 10), "");
+}
+
+TEST(PanoramaManifest, DamagedTextNeverCrashesAndAlwaysExplains) {
+  const QByteArray good =
+      "svh 1\nimage a.png\ncylindrical 60\nhotspot ~a 1,1 9,1 9,9 1,9\nhotspot ^b -3,0 3,0 0,5\n";
+  QRandomGenerator random(1997);
+  for (int round = 0; round < 3000; ++round) {
+    QByteArray text = good;
+    for (int n = random.bounded(1, 6); n > 0; --n)
+      text[random.bounded(text.size())] = static_cast<char>(random.bounded(256));
+    const auto result = parseManifest(QString::fromUtf8(text), kNowhere, QStringLiteral("t.svh"));
+    if (const auto* error = std::get_if<ManifestError>(&result))
+      ASSERT_TRUE(error->message.startsWith("t.svh:")) << text.toStdString();
+    else
+      ASSERT_GE(std::get<PanoramaManifest>(result).verticalFovDegrees, 0);
+  }
 }
 
 }  // namespace
