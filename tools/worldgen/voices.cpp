@@ -3,7 +3,12 @@
 
 #include "tools/worldgen/wav_file.h"
 
+#include <QFile>
+#include <QTemporaryDir>
+
 #include <espeak-ng/speak_lib.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstdint>
 #include <stdexcept>
@@ -58,6 +63,10 @@ void selectVoice(const QString& speaker, const World& w) {
     throw std::runtime_error("no voice " + name.toStdString());
   espeak_SetParameter(espeakPITCH, v.pitch + (index % 5) * 4, 0);
   espeak_SetParameter(espeakRATE, v.rate, 0);
+  espeak_SetParameter(espeakVOLUME, 100, 0);
+  espeak_SetParameter(espeakRANGE, 50, 0);
+  espeak_SetParameter(espeakWORDGAP, 0, 0);
+  espeak_SetParameter(espeakINTONATION, 0, 0);
 }
 
 void speak(const QString& text, std::vector<int16_t>& out) {
@@ -69,18 +78,45 @@ void speak(const QString& text, std::vector<int16_t>& out) {
   gSink = nullptr;
 }
 
-}  // namespace
+bool writeVoices(const WorldVoices& voices, const QString& folder) {
+  QFile timings(folder + QStringLiteral("/timings.txt"));
+  if (!timings.open(QIODevice::WriteOnly)) return false;
+  for (const VoicedLine& l : voices.lines)
+    timings.write(
+        QStringLiteral("%1 %2 %3 %4\n").arg(l.convName).arg(l.waveFile).arg(l.startMs).arg(l.endMs).toUtf8());
+  for (const auto& [name, bytes] : voices.files) {
+    QFile wav(folder + u'/' + name + QStringLiteral(".wav"));
+    if (!wav.open(QIODevice::WriteOnly) || wav.write(bytes) != bytes.size()) return false;
+  }
+  return true;
+}
 
-WorldVoices voiceWorld(const QList<SpokenLine>& lines, const World& w) {
+WorldVoices readVoices(const QString& folder) {
+  WorldVoices voices;
+  QFile timings(folder + QStringLiteral("/timings.txt"));
+  if (!timings.open(QIODevice::ReadOnly)) throw std::runtime_error("the voice process left no timings");
+  for (const QByteArray& line : timings.readAll().split('\n')) {
+    const QList<QByteArray> f = line.split(' ');
+    if (f.size() != 4) continue;
+    voices.lines << VoicedLine{f[0].toInt(), QString::fromUtf8(f[1]), f[2].toInt(), f[3].toInt()};
+    if (voices.files.count(voices.lines.back().waveFile)) continue;
+    QFile wav(folder + u'/' + voices.lines.back().waveFile + QStringLiteral(".wav"));
+    if (!wav.open(QIODevice::ReadOnly)) throw std::runtime_error("the voice process left no sound");
+    voices.files[voices.lines.back().waveFile] = wav.readAll();
+  }
+  return voices;
+}
+
+WorldVoices synthesize(const QList<SpokenLine>& lines, const World& w) {
   const int rate = startEngine();
   WorldVoices result;
   std::map<int, VoicedLine> byNumber;
   for (const QString& speaker : speakers()) {
     std::vector<int16_t> samples;
-    selectVoice(speaker, w);
     const QString file = waveFileOf(w, speaker);
     for (const SpokenLine& line : lines) {
       if (line.speaker != speaker) continue;
+      selectVoice(speaker, w);
       const size_t start = samples.size();
       speak(piecesIn(line, w).join(u' '), samples);
       const size_t end = samples.size();
@@ -92,6 +128,23 @@ WorldVoices voiceWorld(const QList<SpokenLine>& lines, const World& w) {
   }
   for (const auto& [number, voiced] : byNumber) result.lines << voiced;
   return result;
+}
+
+}  // namespace
+
+// The engine keeps hidden state (its voice flutter runs on from call to call), so the same
+// text sounds a little different the second time in one process. Each world is therefore
+// spoken by a fresh child process, and sounds the same however often it is generated.
+WorldVoices voiceWorld(const QList<SpokenLine>& lines, const World& w) {
+  QTemporaryDir exchange;
+  const QString timings = exchange.filePath(QStringLiteral("timings.txt"));
+  const pid_t child = fork();
+  if (child < 0) throw std::runtime_error("cannot start the voice process");
+  if (child == 0) _exit(writeVoices(synthesize(lines, w), exchange.path()) ? 0 : 1);
+  int status = 0;
+  if (waitpid(child, &status, 0) != child || !WIFEXITED(status) || WEXITSTATUS(status) != 0)
+    throw std::runtime_error("speaking the lines of " + w.name.toStdString() + " failed");
+  return readVoices(exchange.path());
 }
 
 }  // namespace worldgen
