@@ -45,7 +45,7 @@ case "${1:-play}" in
     ;;
   play)
     build build
-    exec ./build/hunt
+    exec ./build/bin/hunt
     ;;
   test)
     build build
