@@ -4,7 +4,7 @@
 #include "tools/worldgen/media_refs.h"
 #include "tools/worldgen/world_writer.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QStringList>
 
 #include <cstdio>
@@ -28,7 +28,9 @@ int listMedia(const worldgen::Content& content) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  QCoreApplication app(argc, argv);
+  // Painting text needs fonts, and fonts need a GUI application, though no window opens.
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QGuiApplication app(argc, argv);
   QStringList args = app.arguments().mid(1);
   std::filesystem::path contentFolder = worldgen::defaultContentFolder();
   if (args.size() >= 2 && args[0] == QStringLiteral("--content")) {

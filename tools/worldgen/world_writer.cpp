@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tools/worldgen/world_writer.h"
 
+#include "tools/worldgen/clips.h"
 #include "tools/worldgen/guide_rtf.h"
+#include "tools/worldgen/panoramas.h"
 #include "tools/worldgen/records.h"
 #include "tools/worldgen/start_files.h"
 #include "tools/worldgen/tables.h"
@@ -70,6 +72,8 @@ void writeWorld(const Content& c, const fs::path& root) {
   }
   writeGroup(c, root, false, voices);
   writeGroup(c, root, true, voices);
+  writePanoramas(c, root);
+  writeClips(c, root);
 }
 
 }  // namespace worldgen

@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "tools/worldgen/animal_figure.h"
+
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace worldgen {
+
+namespace {
+
+constexpr double kTurn = 6.283185307179586;
+
+bool isBird(const AnimalLook& l) {
+  return l.plan == BodyPlan::Bird || l.plan == BodyPlan::WaderBird;
+}
+
+// A point given in body units from the middle of the trunk, forward positive, up positive.
+QPointF at(const Pose& pose, double scale, QPointF centre, double forward, double up) {
+  return {centre.x() + pose.facing * forward * scale, centre.y() - up * scale};
+}
+
+QRectF box(QPointF centre, double w, double h) {
+  return {centre.x() - w / 2, centre.y() - h / 2, w, h};
+}
+
+std::array<QLineF, 4> legsOf(const AnimalLook& l, const Pose& pose, const QRectF& trunk, double s) {
+  const double reach = l.legLength * s;
+  std::array<QLineF, 4> legs;
+  const double hips[] = {0.3, 0.22, -0.3, -0.36};  // fore pair, hind pair
+  for (int i = 0; i < 4; ++i) {
+    const double phase = pose.stride * kTurn + (i % 2) * kTurn / 2 + (i / 2) * kTurn / 4;
+    const double sweep = std::sin(phase) * 0.45 * pose.swing;
+    const QPointF hip(trunk.center().x() + pose.facing * hips[i] * trunk.width(),
+                      trunk.bottom() - 0.15 * trunk.height());
+    const double lift = std::max(0.0, std::cos(phase)) * 0.15 * pose.swing;
+    legs[size_t(i)] = QLineF(hip, QPointF(hip.x() + pose.facing * std::sin(sweep) * reach,
+                                          hip.y() + reach * (std::cos(sweep) - lift)));
+  }
+  if (isBird(l)) legs[2] = legs[0], legs[3] = legs[1];
+  return legs;
+}
+
+QRectF headgearOf(const AnimalLook& l, const QRectF& head, double s, int facing) {
+  const double size[] = {0, 0.55, 0.6, 0.7, 0.22, 0.12, 0.2, 0.12};
+  const double h = size[int(l.headgear)] * s;
+  if (h <= 0) return {};
+  const double w = l.headgear == Headgear::Curl ? head.width() * 0.9 : h * 1.1;
+  const double back = facing > 0 ? head.left() - w * 0.35 : head.right() - w * 0.65;
+  return {back, head.top() - h * 0.9, w, h};
+}
+
+}  // namespace
+
+Anatomy anatomyOf(const AnimalLook& l, const Pose& pose) {
+  const double s = l.metres * pose.pixelsPerMetre;  // pixels per body length
+  Anatomy a;
+  const double trunkW = (isBird(l) ? 0.75 : 1.0) * s, trunkH = l.bodyHeight * s;
+  const QPointF centre(pose.x, pose.ground - l.legLength * s - trunkH / 2 + 0.1 * trunkH);
+  a.trunk = box(centre, trunkW, trunkH);
+  a.hump =
+      l.hump > 0 ? box(at(pose, s, centre, 0.22, l.bodyHeight * 0.45), 0.45 * s, l.hump * s * 1.4) : QRectF();
+  const double lift = pose.headLift;
+  const double neckUp = l.neckLength * (lift < 0 ? 0.2 + lift * 1.2 : 0.6 + 0.4 * lift);
+  const QPointF shoulder = at(pose, s, centre, 0.38 * trunkW / s, l.bodyHeight * 0.25);
+  const QPointF poll = at(pose, s, shoulder, l.neckLength * (lift < 0 ? 0.7 : 0.45), neckUp);
+  const double headW = l.headLength * s, headH = std::max(l.headLength * 0.45, 0.08) * s;
+  const QPointF headCentre(poll.x() + l.headLength * 0.4 * s * pose.facing,
+                           poll.y() + headH * (lift < 0 ? 0.7 : 0.2));
+  a.head = box(headCentre, headW, headH);
+  const double neckW = std::max(0.12, l.bodyHeight * 0.45) * s * (isBird(l) ? 0.4 : 1.0);
+  a.neck = QPolygonF({at(pose, s, shoulder, -neckW / s * 0.7, l.bodyHeight * 0.25),
+                      at(pose, s, poll, -0.02, headH / s * 0.4), at(pose, s, poll, 0.03, -headH / s * 0.6),
+                      at(pose, s, shoulder, neckW / s * 0.4, -l.bodyHeight * 0.6)});
+  a.legs = legsOf(l, pose, a.trunk, s);
+  a.legWidth = std::max(1.5, (isBird(l) ? 0.02 : 0.07) * s);
+  a.headgear = headgearOf(l, a.head, s, pose.facing);
+  a.vital = box(at(pose, s, centre, 0.22 * trunkW / s, -0.08 * l.bodyHeight), 0.24 * trunkW, 0.42 * trunkH);
+  a.gut = box(at(pose, s, centre, -0.12 * trunkW / s, -0.18 * l.bodyHeight), 0.26 * trunkW, 0.38 * trunkH);
+  a.tailBase = at(pose, s, centre, -0.5 * trunkW / s, 0.25 * l.bodyHeight);
+  return a;
+}
+
+namespace {
+
+void drawLegs(QPainter& p, const Anatomy& a, const AnimalLook& l) {
+  p.setPen(QPen(l.legs, a.legWidth, Qt::SolidLine, Qt::RoundCap));
+  for (const QLineF& leg : a.legs) p.drawLine(leg);
+  p.setPen(QPen(l.legs.darker(160), a.legWidth * 0.8, Qt::SolidLine, Qt::RoundCap));
+  for (const QLineF& leg : a.legs) p.drawPoint(leg.p2());
+}
+
+void drawTail(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& pose) {
+  const double s = a.trunk.width();
+  if (l.plan == BodyPlan::Bird && l.beard) {  // the turkey's fan
+    p.setBrush(l.coat.darker(120));
+    p.setPen(QPen(l.rump, 1.5));
+    p.drawPie(box(a.tailBase, s * 0.9, s * 0.9), pose.facing > 0 ? 70 * 16 : 20 * 16, 90 * 16);
+    return;
+  }
+  const QPointF end(a.tailBase.x() - pose.facing * l.tail * s * 0.8, a.tailBase.y() + l.tail * s * 0.5);
+  p.setPen(QPen(l.rump == l.coat ? l.coat.darker(115) : l.rump,
+                std::max(1.5, s * (l.tail > 0.3 ? 0.09 : 0.06)), Qt::SolidLine, Qt::RoundCap));
+  p.drawLine(a.tailBase, end);
+}
+
+void drawTrunk(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& pose) {
+  QLinearGradient shade(a.trunk.topLeft(), a.trunk.bottomLeft());
+  shade.setColorAt(0, l.coat.lighter(112));
+  shade.setColorAt(0.65, l.coat);
+  shade.setColorAt(1, l.belly);
+  p.setPen(Qt::NoPen);
+  p.setBrush(shade);
+  p.drawEllipse(a.trunk);
+  if (!a.hump.isEmpty()) p.drawEllipse(a.hump);
+  if (l.rump != l.coat) {
+    p.setBrush(l.rump);
+    const double w = a.trunk.width() * 0.22;
+    const double x = pose.facing > 0 ? a.trunk.left() : a.trunk.right() - w;
+    p.drawEllipse(QRectF(x, a.trunk.top() + a.trunk.height() * 0.15, w, a.trunk.height() * 0.6));
+  }
+  p.setBrush(l.coat);
+  p.drawPolygon(a.neck);
+}
+
+void drawHeadgear(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& pose) {
+  if (a.headgear.isEmpty()) return;
+  const QRectF g = a.headgear;
+  const QColor bone = l.headgear == Headgear::Spikes ? QColor(0x1a1a1a) : QColor(0xd8c8a8);
+  const double w = std::max(1.2, g.height() * 0.08);
+  p.setPen(QPen(bone, w, Qt::SolidLine, Qt::RoundCap));
+  p.setBrush(Qt::NoBrush);
+  const QPointF base(a.head.center().x() - pose.facing * a.head.width() * 0.25, a.head.top() + 1);
+  const double f = -pose.facing;  // beams sweep back over the neck
+  switch (l.headgear) {
+    case Headgear::Antlers:
+    case Headgear::CaribouRack: {
+      const QPointF tip(base.x() + f * g.width() * 0.55, g.top());
+      p.drawLine(base, tip);
+      for (int t = 1; t <= 3; ++t) {
+        const QPointF on = base + (tip - base) * (t / 4.0);
+        p.drawLine(on, on + QPointF(-f * g.width() * 0.18, -g.height() * 0.3));
+      }
+      if (l.headgear == Headgear::CaribouRack) {
+        p.setBrush(bone);
+        p.drawEllipse(box(base + QPointF(-f * g.width() * 0.15, -g.height() * 0.2), g.width() * 0.18,
+                          g.height() * 0.15));
+      }
+      break;
+    }
+    case Headgear::Palmate:
+      p.setBrush(bone);
+      p.drawChord(QRectF(g.left(), g.top() + g.height() * 0.2, g.width(), g.height() * 0.9), 0, 180 * 16);
+      break;
+    case Headgear::Curl:
+      p.setPen(QPen(bone.darker(115), std::max(2.0, g.height() * 0.25), Qt::SolidLine, Qt::RoundCap));
+      p.drawArc(QRectF(base.x() + f * g.width() * 0.1 - g.width() / 2, g.top(), g.width(), g.height() * 1.6),
+                pose.facing > 0 ? 0 : -90 * 16, 270 * 16);
+      break;
+    default:
+      p.drawLine(base, QPointF(base.x() + f * g.width() * 0.3, g.top()));
+      p.drawLine(base + QPointF(pose.facing * 2, 0), QPointF(base.x() + f * g.width() * 0.1, g.top()));
+  }
+}
+
+void drawHead(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& pose) {
+  p.setPen(Qt::NoPen);
+  p.setBrush(l.coat.darker(105));
+  p.drawEllipse(a.head);
+  const double h = a.head.height();
+  const QPointF back(a.head.center().x() - pose.facing * a.head.width() * 0.3, a.head.top());
+  if (!isBird(l)) {  // ears
+    p.setBrush(l.coat.darker(125));
+    p.drawEllipse(box(back + QPointF(-pose.facing * h * 0.1, -h * 0.15), h * 0.35, h * 0.55));
+  }
+  if (l.beard) {
+    p.setBrush(l.plan == BodyPlan::Bird ? QColor(0xb02020) : l.coat.darker(140));
+    p.drawEllipse(
+        box(QPointF(a.head.center().x() + pose.facing * a.head.width() * 0.1, a.head.bottom() + h * 0.3),
+            h * 0.4, h * 0.8));
+  }
+  p.setBrush(QColor(0x101010));
+  const double eye = std::max(1.2, h * 0.16);
+  p.drawEllipse(box(
+      QPointF(a.head.center().x() + pose.facing * a.head.width() * 0.08, a.head.top() + h * 0.35), eye, eye));
+  if (isBird(l)) {  // beak
+    p.setBrush(l.legs);
+    const QPointF tip(a.head.center().x() + pose.facing * a.head.width() * 0.85,
+                      a.head.center().y() + h * 0.1);
+    p.drawPolygon(QPolygonF(
+        {QPointF(a.head.center().x() + pose.facing * a.head.width() * 0.4, a.head.top() + h * 0.3), tip,
+         QPointF(a.head.center().x() + pose.facing * a.head.width() * 0.4, a.head.bottom() - h * 0.2)}));
+  }
+}
+
+HitZone zoneOf(const QRectF& r, int code) {
+  const QRect i = r.toAlignedRect().intersected(QRect(0, 0, 320, 240));
+  if (i.isEmpty()) return {-10, -10, -10, -10, int16_t(code)};  // off screen: nothing to hit
+  return {int16_t(i.left()), int16_t(i.top()), int16_t(i.right()), int16_t(i.bottom()), int16_t(code)};
+}
+
+QRectF legBox(const Anatomy& a) {
+  QRectF r;
+  for (const QLineF& leg : a.legs) r |= QRectF(leg.p1(), leg.p2()).normalized();
+  return r;
+}
+
+}  // namespace
+
+void drawAnimal(QPainter& p, const AnimalLook& look, const Pose& pose) {
+  const Anatomy a = anatomyOf(look, pose);
+  p.save();
+  p.setRenderHint(QPainter::Antialiasing);
+  if (pose.tilt != 0) {
+    p.translate(pose.x, pose.ground);
+    p.rotate(pose.tilt * pose.facing);
+    p.translate(-pose.x, -pose.ground);
+  }
+  drawTail(p, a, look, pose);
+  drawLegs(p, a, look);
+  drawTrunk(p, a, look, pose);
+  drawHead(p, a, look, pose);
+  drawHeadgear(p, a, look, pose);
+  p.restore();
+}
+
+HitRecord hitZonesOf(const AnimalLook& look, const Pose& pose) {
+  const Anatomy a = anatomyOf(look, pose);
+  QList<HitZone> zones;
+  if (!a.headgear.isEmpty()) zones << zoneOf(a.headgear, kHeadgearZone);
+  zones << zoneOf(a.vital, kVitalZone) << zoneOf(a.head, kHeadZone) << zoneOf(a.gut, kGutZone)
+        << zoneOf(a.trunk | a.hump, kBodyZone) << zoneOf(legBox(a), kLegZone);
+  HitRecord record{};
+  for (size_t i = 0; i < record.size(); ++i) record[i] = zones[qsizetype(i)];
+  return record;
+}
+
+}  // namespace worldgen
