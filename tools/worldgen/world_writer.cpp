@@ -4,7 +4,9 @@
 #include "tools/worldgen/clips.h"
 #include "tools/worldgen/guide_rtf.h"
 #include "tools/worldgen/panoramas.h"
+#include "tools/worldgen/pictures.h"
 #include "tools/worldgen/records.h"
+#include "tools/worldgen/sounds.h"
 #include "tools/worldgen/start_files.h"
 #include "tools/worldgen/tables.h"
 #include "tools/worldgen/voices.h"
@@ -74,6 +76,8 @@ void writeWorld(const Content& c, const fs::path& root) {
   writeGroup(c, root, true, voices);
   writePanoramas(c, root);
   writeClips(c, root);
+  writePictures(c, root);
+  writeSounds(c, root);
 }
 
 }  // namespace worldgen

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "tools/worldgen/pictures.h"
+
+#include "shell/names.h"
+#include "tools/worldgen/animal_figure.h"
+#include "tools/worldgen/landscape.h"
+#include "tools/worldgen/speech_lines.h"
+#include "tools/worldgen/stable_random.h"
+#include "tools/worldgen/world_layout.h"
+
+#include <QPainter>
+
+#include <set>
+#include <stdexcept>
+
+namespace worldgen {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+void save(const QImage& image, const fs::path& file) {
+  fs::create_directories(file.parent_path());
+  if (!image.convertToFormat(QImage::Format_RGB888).save(QString::fromStdString(file.string()), "BMP"))
+    throw std::runtime_error("cannot write " + file.string());
+}
+
+QColor categoryColour(int category) {
+  const QRgb colours[] = {0x5a6a3a, 0x7a4a2a, 0x3a4a6a, 0x6a3a3a, 0x4a5a5a, 0x6a5a2a};
+  return QColor(colours[category % 6]);
+}
+
+// A card with the item's name over a plain drawing of its kind.
+QImage itemPicture(const QString& name, int category, QSize size) {
+  QImage image(size, QImage::Format_RGB32);
+  QPainter p(&image);
+  p.setRenderHint(QPainter::Antialiasing);
+  QLinearGradient back(0, 0, 0, size.height());
+  back.setColorAt(0, QColor(0xf0e8d8));
+  back.setColorAt(1, QColor(0xd8ccb4));
+  p.fillRect(image.rect(), back);
+  p.setPen(QPen(categoryColour(category).darker(130), std::max(1, size.width() / 60)));
+  p.setBrush(categoryColour(category));
+  const QRectF art(size.width() * 0.2, size.height() * 0.12, size.width() * 0.6, size.height() * 0.55);
+  p.drawRoundedRect(art, art.width() / 8, art.width() / 8);
+  p.setBrush(categoryColour(category).lighter(150));
+  p.drawEllipse(art.adjusted(art.width() * 0.3, art.height() * 0.2, -art.width() * 0.3, -art.height() * 0.2));
+  if (size.width() < 64) return image;
+  QFont font = p.font();
+  font.setPixelSize(size.height() / 10);
+  p.setFont(font);
+  p.setPen(QColor(0x2a2018));
+  p.drawText(QRectF(4, size.height() * 0.7, size.width() - 8, size.height() * 0.28),
+             Qt::AlignCenter | Qt::TextWordWrap, name);
+  return image;
+}
+
+QImage weaponPicture(int n, QSize size) {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(QColor(0xe8e0d0));
+  QPainter p(&image);
+  p.setRenderHint(QPainter::Antialiasing);
+  p.scale(size.width() / 300.0, size.height() / 100.0);
+  const bool bow = n >= 8;
+  p.setPen(QPen(QColor(0x2a2a2a), bow ? 5 : 1));
+  if (bow) {
+    p.setBrush(Qt::NoBrush);
+    p.drawArc(QRectF(60, 5, 60, 90), -80 * 16, 160 * 16);
+    p.setPen(QPen(QColor(0x606060), 1));
+    p.drawLine(QPointF(99, 8), QPointF(99, 92));
+    p.drawLine(QPointF(40, 50), QPointF(280, 50));
+    return image;
+  }
+  p.setBrush(QColor(0x5a3a1e));  // stock
+  p.drawPolygon(QPolygonF({QPointF(20, 45), QPointF(110, 48), QPointF(120, 62), QPointF(30, 80)}));
+  p.setBrush(QColor(0x303030));  // action and barrel
+  p.drawRect(QRectF(110, 44, n == 5 ? 90 : 170, 8));
+  if (n != 6) p.drawRoundedRect(QRectF(120, 30, 70, 10), 4, 4);  // scope
+  return image;
+}
+
+QImage tagPicture(int species) {
+  QImage image(200, 100, QImage::Format_RGB32);
+  image.fill(QColor(0xf2e6a8));
+  QPainter p(&image);
+  p.setPen(QPen(QColor(0x8a6a20), 3));
+  p.drawRect(image.rect().adjusted(2, 2, -3, -3));
+  p.drawEllipse(QRectF(10, 40, 16, 16));
+  QFont font = p.font();
+  font.setPixelSize(16);
+  font.setBold(true);
+  p.setFont(font);
+  p.setPen(QColor(0x3a2a10));
+  p.drawText(QRect(30, 10, 165, 40), Qt::AlignCenter, speciesNameOf(species));
+  font.setPixelSize(12);
+  p.setFont(font);
+  p.drawText(QRect(30, 55, 165, 30), Qt::AlignCenter,
+             QStringLiteral("HUNTING TAG No. %1").arg(species, 4, 10, QChar(u'0')));
+  return image;
+}
+
+QImage trophyPicture(int species) {
+  const QChar world = speciesNameOf(species).at(0) < u'M' ? QChar(u'B') : QChar(u'T');
+  QImage image = paintLandscape({world, QStringLiteral("trophy"), 320, 240, 0.42, false});
+  QPainter p(&image);
+  Pose pose;
+  pose.pixelsPerMetre = std::clamp(150 / lookOf(species).metres, 25.0, 90.0);
+  pose.headLift = 1;
+  drawAnimal(p, lookOf(species), pose);
+  return image;
+}
+
+QImage portrait(const QString& key) {
+  StableRandom rnd(key);
+  QImage image(120, 150, QImage::Format_RGB32);
+  image.fill(QColor(0x7a5a3a));
+  QPainter p(&image);
+  p.setRenderHint(QPainter::Antialiasing);
+  p.setPen(Qt::NoPen);
+  const QRgb coats[] = {0x8a2a1a, 0x3a5a2a, 0x2a3a5a, 0x6a5a2a, 0x5a3a5a};
+  p.setBrush(QColor(coats[rnd.below(5)]));
+  p.drawRoundedRect(QRectF(15, 95, 90, 70), 20, 20);
+  p.setBrush(QColor(0xe0b494).darker(int(rnd.between(100, 135))));
+  p.drawEllipse(QRectF(35, 35, 50, 62));
+  p.setBrush(QColor(0x2a2018));
+  p.drawEllipse(QRectF(48, 58, 5, 5));
+  p.drawEllipse(QRectF(67, 58, 5, 5));
+  p.setBrush(QColor(rnd.below(2) ? 0x4a3a2a : 0xb04020));  // a hat
+  p.drawRect(QRectF(25, 32, 70, 8));
+  p.drawRoundedRect(QRectF(38, 14, 44, 22), 6, 6);
+  return image;
+}
+
+}  // namespace
+
+void writePictures(const Content& c, const fs::path& root) {
+  for (int row = 0; row < c.catalog.rows.size(); ++row) {
+    const std::string id = cell(c.catalog, row, "ID").toStdString();
+    const QString name = cell(c.catalog, row, "Item");
+    const int category = cell(c.catalog, row, "CatNumber").toInt();
+    save(itemPicture(name, category, QSize(200, 150)), root / "invpics" / ("image" + id + ".bmp"));
+    save(itemPicture(name, category, QSize(32, 32)), root / "invpics" / ("icon" + id + ".bmp"));
+  }
+  for (int n = 1; n <= kWeaponCount; ++n) {
+    save(weaponPicture(n, QSize(300, 100)), root / "pict" / ("weapon" + std::to_string(n) + ".bmp"));
+    save(weaponPicture(n, QSize(32, 32)), root / "pict" / ("wicon" + std::to_string(n) + ".bmp"));
+  }
+  for (int s = 1; s <= kSpeciesCount; ++s) {
+    save(tagPicture(s), root / "licnpics" / ("tag" + std::to_string(s) + ".bmp"));
+    save(trophyPicture(s), root / "art" / ("Trophy" + std::to_string(s) + ".bmp"));
+  }
+  std::set<QString> done;
+  for (const World& w : allWorlds())
+    for (const SpokenLine& line : spokenLines(c)) {
+      const QString name = pictureOf(w, line.speaker);
+      if (done.insert(name).second) save(portrait(name), root / "art" / (name + ".bmp").toStdString());
+    }
+}
+
+}  // namespace worldgen

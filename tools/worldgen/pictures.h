@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// The still pictures of the sample world: item pictures and icons, weapons, tags, trophies
+// and the portraits of the people one talks to.
+#pragma once
+
+#include "tools/worldgen/content.h"
+
+#include <filesystem>
+
+namespace worldgen {
+
+void writePictures(const Content& c, const std::filesystem::path& root);
+
+}  // namespace worldgen
