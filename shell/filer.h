@@ -15,6 +15,8 @@ class ReSize;
 }
 
 class Filer : public QDialog {
+  Q_OBJECT
+
  public:
   Filer();
 

@@ -7,6 +7,8 @@
 class QTextBrowser;
 
 class HelpWindow : public QDialog {
+  Q_OBJECT
+
  public:
   HelpWindow();
   // Shows `HelpFile`; a missing file shows a short note instead of an empty window.

@@ -58,6 +58,18 @@ void ReadSaveFile(const QString& path, char kind) {
   }
 }
 
+void ReadQuickHuntOutfit(const QString& path) {
+  static const QStringList kOutfit{"EquipSlots", "OwnedItems", "TagsOwned", "Money"};
+  try {
+    rt::ListInput in(platform::files().resolve(path));
+    for (const QString& name : kOutfit)
+      for (const SaveField& field : saveFileLayout())
+        if (name == QLatin1String(field.name)) field.read(in);
+  } catch (const std::exception&) {
+    // Keep what was read.
+  }
+}
+
 SaveOutcome saveNamedFile(const QString& name, char kind) {
   if (name.trimmed().isEmpty()) {
     platform::MsgBox(QStringLiteral("You must enter a Save name"), Buttons::Ok, Icon::None,

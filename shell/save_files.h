@@ -24,6 +24,10 @@ bool writeSaveFile(const QString& path, char kind);
 // read so far changed and the rest as it was.
 void ReadSaveFile(const QString& path, char kind);
 
+// Reads a quick-hunt outfit: the carried, owned and tag arrays and then the money, in the
+// form of a save file's first fields. A missing or short file keeps what was read.
+void ReadQuickHuntOutfit(const QString& path);
+
 // The menu's save confirmation. Asks before overwriting and reports the result in boxes.
 enum class SaveOutcome { NeedName, Declined, Saved, Failed };
 SaveOutcome saveNamedFile(const QString& name, char kind);
