@@ -39,27 +39,29 @@ struct Encoder {
   void open(const std::filesystem::path& file) {
     check(avformat_alloc_output_context2(&format, nullptr, "avi", file.string().c_str()) >= 0, "AVI muxer");
     format->flags |= AVFMT_FLAG_BITEXACT;  // no encoder version in the file
-    const AVCodec* mjpeg = avcodec_find_encoder(AV_CODEC_ID_MJPEG);
-    check(mjpeg, "no MJPEG encoder");
+    const AVCodec* mjpeg = avcodec_find_encoder(AV_CODEC_ID_MPEG4);
+    check(mjpeg, "no MPEG-4 encoder");
     codec = avcodec_alloc_context3(mjpeg);
     codec->width = kClipWidth;
     codec->height = kClipHeight;
     codec->time_base = AVRational{1, kClipFps};
     codec->framerate = AVRational{kClipFps, 1};
-    codec->pix_fmt = AV_PIX_FMT_YUVJ420P;
+    codec->pix_fmt = AV_PIX_FMT_YUV420P;
     codec->flags |= AV_CODEC_FLAG_QSCALE | AV_CODEC_FLAG_BITEXACT;
-    codec->global_quality = FF_QP2LAMBDA * 7;
+    codec->global_quality = FF_QP2LAMBDA * 4;
+    codec->gop_size = kClipFps;  // a key picture every second, so seeking stays quick
+    codec->max_b_frames = 0;
     codec->thread_count = 1;
-    check(avcodec_open2(codec, mjpeg, nullptr) >= 0, "open MJPEG encoder");
+    check(avcodec_open2(codec, mjpeg, nullptr) >= 0, "open MPEG-4 encoder");
     stream = avformat_new_stream(format, nullptr);
     avcodec_parameters_from_context(stream->codecpar, codec);
     stream->time_base = codec->time_base;
     check(avio_open(&format->pb, file.string().c_str(), AVIO_FLAG_WRITE) >= 0, "open " + file.string());
     check(avformat_write_header(format, nullptr) >= 0, "write header");
     scaler = sws_getContext(kClipWidth, kClipHeight, AV_PIX_FMT_BGRA, kClipWidth, kClipHeight,
-                            AV_PIX_FMT_YUVJ420P, SWS_POINT | SWS_BITEXACT, nullptr, nullptr, nullptr);
+                            AV_PIX_FMT_YUV420P, SWS_POINT | SWS_BITEXACT, nullptr, nullptr, nullptr);
     frame = av_frame_alloc();
-    frame->format = AV_PIX_FMT_YUVJ420P;
+    frame->format = AV_PIX_FMT_YUV420P;
     frame->width = kClipWidth;
     frame->height = kClipHeight;
     check(av_frame_get_buffer(frame, 0) >= 0, "picture buffer");

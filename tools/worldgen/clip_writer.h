@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// Writes a silent 320 x 240 MJPEG AVI, picture by picture, with the same bytes on every run.
+// Writes a silent 320 x 240 MPEG-4 AVI, picture by picture, with the same bytes on every run.
 #pragma once
 
 #include <QImage>

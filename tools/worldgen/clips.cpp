@@ -12,10 +12,13 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <map>
+#include <mutex>
 #include <set>
 #include <stdexcept>
+#include <thread>
 
 namespace worldgen {
 
@@ -31,7 +34,7 @@ constexpr double kGround = 205;
 constexpr int kSliceMs = 360;
 
 double pixelsPerMetre(const AnimalLook& look) {
-  return std::clamp(120 / look.metres, 25.0, 80.0);
+  return std::clamp(95 / look.metres, 22.0, 75.0);
 }
 
 double smooth(double t) {
@@ -73,6 +76,28 @@ void writeBytes(const fs::path& file, const QByteArray& bytes) {
 }
 
 using PoseAt = std::function<Pose(int)>;
+using Job = std::function<void()>;
+
+// Clips are independent files, so two painters share the work without changing a byte.
+void runJobs(const std::vector<Job>& jobs) {
+  std::atomic<size_t> next{0};
+  std::exception_ptr failure;
+  std::mutex failureLock;
+  auto worker = [&] {
+    for (size_t i = next++; i < jobs.size(); i = next++) {
+      try {
+        jobs[i]();
+      } catch (...) {
+        const std::lock_guard lock(failureLock);
+        failure = std::current_exception();
+      }
+    }
+  };
+  std::thread helper(worker);
+  worker();
+  helper.join();
+  if (failure) std::rethrow_exception(failure);
+}
 
 void writeAnimalClip(const fs::path& file, const QImage& backdrop, int animal, int frames,
                      const PoseAt& poseAt) {
@@ -152,11 +177,12 @@ class ClipSet {
  public:
   ClipSet(const Content& c, const fs::path& root) : c_(c), root_(root) {}
 
-  void writeWorld(const World& w) {
+  void addWorld(const World& w) {
     for (const int animal : animalsOf(c_, w.letter))
-      for (int k = 1; k <= clipsPerAnimal(animal); ++k) writeAnimal(w, animal, k);
-    writeFilms(w);
+      for (int k = 1; k <= clipsPerAnimal(animal); ++k) addAnimal(w, animal, k);
+    addFilms(w);
   }
+  const std::vector<Job>& jobs() const { return jobs_; }
 
  private:
   bool fresh(const QString& path) { return written_.insert(path.toLower()).second; }
@@ -164,45 +190,56 @@ class ClipSet {
     return root_ / folder / (name + ext).toStdString();
   }
 
-  void writeAnimal(const World& w, int animal, int k) {
+  void addClip(const fs::path& path, const QImage& back, int animal, int frames, PoseAt poseAt) {
+    jobs_.push_back([=] { writeAnimalClip(path, back, animal, frames, poseAt); });
+  }
+
+  void addAnimal(const World& w, int animal, int k) {
     const QImage& back = backdrops_.of(w.letter, k);
     if (animal > kSpeciesCount) {
       const QString name = clipName(w, c_, animal, 'p', k);
       if (fresh(name))
-        writeAnimalClip(file("VProt", name, ".avi"), back, animal, kPassFrames,
-                        [&](int n) { return passPose(animal, n); });
+        addClip(file("VProt", name, ".avi"), back, animal, kPassFrames,
+                [=](int n) { return passPose(animal, n); });
       return;
     }
     const QString main = clipName(w, c_, animal, 'c', k);
     if (!fresh(main)) return;
-    writeAnimalClip(file("Vmain", main, ".avi"), back, animal, kEncounterFrames,
-                    [&](int n) { return encounterPose(animal, k, n); });
+    const fs::path mainClip = file("Vmain", main, ".avi");
+    jobs_.push_back([=] { writeEncounterClip(mainClip, back, animal, k); });
     writeBytes(file("Vmain", main, ".dat"), hitZoneFile(animal, k));
-    writeAnimalClip(file("VEscapes", clipName(w, c_, animal, 'e', k), ".avi"), back, animal, kEscapeFrames,
-                    [&](int n) { return escapePose(animal, k, n); });
-    writeAnimalClip(file("VHits", clipName(w, c_, animal, 'h', k), ".avi"), back, animal, kHitFrames,
-                    [&](int n) { return hitPose(animal, k, n, false); });
-    writeAnimalClip(file("VHits", clipName(w, c_, animal, 'a', k), ".avi"), back, animal, kHitFrames,
-                    [&](int n) { return hitPose(animal, k, n, true); });
+    addClip(file("VEscapes", clipName(w, c_, animal, 'e', k), ".avi"), back, animal, kEscapeFrames,
+            [=](int n) { return escapePose(animal, k, n); });
+    addClip(file("VHits", clipName(w, c_, animal, 'h', k), ".avi"), back, animal, kHitFrames,
+            [=](int n) { return hitPose(animal, k, n, false); });
+    addClip(file("VHits", clipName(w, c_, animal, 'a', k), ".avi"), back, animal, kHitFrames,
+            [=](int n) { return hitPose(animal, k, n, true); });
   }
 
-  void writeFilms(const World& w) {
+  void addFilms(const World& w) {
     const QString letter(w.letter);
     if (!fresh(letter + "Movie")) return;
-    const QImage& back = backdrops_.of(w.letter, 9);
-    for (int t = 0; t < 2; ++t)
-      writeClip(file("art", letter + "trak" + QString::number(t), ".avi"), kPassFrames,
-                [&](QImage& picture, int n) { paintTracks(picture, back, n, t == 1); });
+    const QImage back = backdrops_.of(w.letter, 9);
+    for (int t = 0; t < 2; ++t) {
+      const fs::path path = file("art", letter + "trak" + QString::number(t), ".avi");
+      jobs_.push_back([=] {
+        writeClip(path, kPassFrames, [&](QImage& picture, int n) { paintTracks(picture, back, n, t == 1); });
+      });
+    }
     const QImage wide =
         paintLandscape({w.letter, QStringLiteral("film"), kClipWidth * 3, kClipHeight, 0.45, false});
-    writeClip(file("art", letter + "Movie", ".avi"), kFilmFrames,
-              [&](QImage& picture, int n) { paintAreaFilm(picture, wide, w.name, n); });
+    const fs::path path = file("art", letter + "Movie", ".avi");
+    const QString title = w.name;
+    jobs_.push_back([=] {
+      writeClip(path, kFilmFrames, [&](QImage& picture, int n) { paintAreaFilm(picture, wide, title, n); });
+    });
   }
 
   const Content& c_;
   fs::path root_;
   Backdrops backdrops_;
   std::set<QString> written_;
+  std::vector<Job> jobs_;
 };
 
 void putZone(QByteArray& out, const HitZone& z) {
@@ -219,6 +256,16 @@ int middleFrameOf(int record) {
 }
 
 }  // namespace
+
+void writeEncounterClip(const fs::path& file, const QImage& backdrop, int animal, int k) {
+  writeAnimalClip(file, backdrop, animal, kEncounterFrames,
+                  [=](int n) { return encounterPose(animal, k, n); });
+}
+
+QImage clipBackdrop(QChar world, int k) {
+  return paintLandscape(
+      {world, QStringLiteral("clip") + world + QString::number(k), kClipWidth, kClipHeight, 0.42, false});
+}
 
 Pose encounterPose(int animal, int k, int n) {
   Pose pose = basePose(animal, k);
@@ -242,7 +289,8 @@ QByteArray hitZoneFile(int animal, int k) {
 
 void writeClips(const Content& c, const fs::path& root) {
   ClipSet clips(c, root);
-  for (const World& w : allWorlds()) clips.writeWorld(w);
+  for (const World& w : allWorlds()) clips.addWorld(w);
+  runJobs(clips.jobs());
 }
 
 }  // namespace worldgen

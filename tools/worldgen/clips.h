@@ -7,6 +7,7 @@
 #include "tools/worldgen/content.h"
 
 #include <QByteArray>
+#include <QImage>
 
 #include <filesystem>
 
@@ -14,8 +15,12 @@ namespace worldgen {
 
 inline constexpr int kEncounterFrames = 75;  // five seconds
 
+// The scenery behind the k-th clips of a world.
+QImage clipBackdrop(QChar world, int k);
 // Where animal `animal` stands in picture n of its k-th encounter clip.
 Pose encounterPose(int animal, int k, int n);
+// The encounter clip itself, drawn over `backdrop`.
+void writeEncounterClip(const std::filesystem::path& file, const QImage& backdrop, int animal, int k);
 // The hit-zone file of that clip: one 50-byte record per slice the game reads.
 QByteArray hitZoneFile(int animal, int k);
 

@@ -138,11 +138,12 @@ void paintRidge(QPainter& p, const LandscapeRequest& r, double base, double ampl
   p.setBrush(shade);
   p.drawPath(land);
   if (snow <= 0) return;
-  p.save();
-  p.setClipPath(land);
-  p.setBrush(QColor(245, 248, 252, 235));
-  p.drawRect(QRectF(0, 0, r.width, capLine));
-  p.restore();
+  // Snow thins out down the slopes instead of ending in a line.
+  QLinearGradient cap(0, capLine - amplitude * 0.4, 0, capLine + amplitude * 0.35);
+  cap.setColorAt(0, QColor(245, 248, 252, 240));
+  cap.setColorAt(1, QColor(245, 248, 252, 0));
+  p.setBrush(cap);
+  p.drawPath(land);
 }
 
 void paintGround(QPainter& p, const Scenery& s, const LandscapeRequest& r, double horizonY,
@@ -157,10 +158,10 @@ void paintGround(QPainter& p, const Scenery& s, const LandscapeRequest& r, doubl
     const double depth = (y - horizonY) / (r.height - horizonY);
     const bool snow = rnd.unit() < s.snowGround;
     QColor c = snow ? QColor(240, 244, 250) : s.groundNear.lighter(int(rnd.between(80, 130)));
-    c.setAlpha(snow ? 200 : 140);
+    c.setAlpha(snow ? 150 : 140);
     p.setBrush(c);
-    const double size = 1 + depth * (snow ? 14 : 5);
-    p.drawEllipse(QRectF(rnd.between(0, r.width), y, size * 2.2, size * 0.6));
+    const double size = 1 + depth * (snow ? 12 : 5);
+    p.drawEllipse(QRectF(rnd.between(0, r.width), y, size * (snow ? 4.5 : 2.2), size * (snow ? 0.45 : 0.6)));
   }
 }
 

@@ -21,7 +21,7 @@ int usage() {
 
 int listMedia(const worldgen::Content& content) {
   for (const worldgen::MediaRef& ref : worldgen::referencedMedia(content))
-    std::printf("%s%s\n", qPrintable(ref.path), worldgen::isPaintedMedia(ref.kind) ? "" : "  (written now)");
+    std::printf("%s\n", qPrintable(ref.path));
   return 0;
 }
 

@@ -130,8 +130,4 @@ QList<MediaRef> referencedMedia(const Content& c) {
   return out.sorted();
 }
 
-bool isPaintedMedia(MediaKind kind) {
-  return kind != MediaKind::Table && kind != MediaKind::Record && kind != MediaKind::Voice;
-}
-
 }  // namespace worldgen

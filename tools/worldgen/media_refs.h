@@ -21,8 +21,4 @@ struct MediaRef {
 // Sorted, each path once.
 QList<MediaRef> referencedMedia(const Content& c);
 
-// Pictures, panoramas, clips, hit zones and sounds other than voices come with the painted
-// part of the world; until then the completeness check lists them instead of failing.
-bool isPaintedMedia(MediaKind kind);
-
 }  // namespace worldgen

@@ -63,7 +63,7 @@ void writeGroup(const Content& c, const fs::path& root, bool permit,
 
 }  // namespace
 
-void writeWorld(const Content& c, const fs::path& root) {
+void writeWorld(const Content& c, const fs::path& root, WorldParts parts) {
   writeTables(c, root / "data");
   const QList<SpokenLine> lines = spokenLines(c);
   std::map<QChar, WorldVoices> voices;
@@ -74,6 +74,7 @@ void writeWorld(const Content& c, const fs::path& root) {
   }
   writeGroup(c, root, false, voices);
   writeGroup(c, root, true, voices);
+  if (parts != WorldParts::Everything) return;
   writePanoramas(c, root);
   writeClips(c, root);
   writePictures(c, root);

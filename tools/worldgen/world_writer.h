@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// Writes the whole data, record and voice part of the sample world into a folder.
+// Writes the sample world into a folder: its tables, records and voices, and unless asked
+// not to, the painted panoramas, pictures, clips and sounds.
 #pragma once
 
 #include "tools/worldgen/content.h"
@@ -8,7 +9,10 @@
 
 namespace worldgen {
 
+enum class WorldParts { TablesRecordsAndVoices, Everything };
+
 // Throws std::runtime_error when a file cannot be written.
-void writeWorld(const Content& c, const std::filesystem::path& root);
+void writeWorld(const Content& c, const std::filesystem::path& root,
+                WorldParts parts = WorldParts::Everything);
 
 }  // namespace worldgen
