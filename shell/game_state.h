@@ -105,6 +105,7 @@ struct GameState {
   int16_t FirstArrival = 0;    // set on arriving at the lodge from elsewhere
   int16_t MediaBusy = 0;       // a sound of a lodge screen is playing
   int16_t VideoReturn = 0;     // what the clip player returns to
+  int16_t AviTracking = 0;     // the clip about to play is a tracking film
   int16_t MissDirection = 0;   // miss direction code of the last shot
   int16_t DamagedTrophy = 0;   // the trophy was spoiled by the shot
   int16_t TrackedSpecies = 0;  // species of the wounded animal being tracked

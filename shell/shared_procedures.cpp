@@ -13,6 +13,11 @@ std::function<void(bool)>& huntTimerSwitch() {
   return onOff;
 }
 
+std::function<void()>& huntMediaCloser() {
+  static std::function<void()> close;
+  return close;
+}
+
 std::function<void()>& huntClockDisplay() {
   static std::function<void()> refresh;
   return refresh;
@@ -72,4 +77,12 @@ void setHuntClockDisplay(std::function<void()> refresh) {
 
 void RefreshHuntClock() {
   if (huntClockDisplay()) huntClockDisplay()();
+}
+
+void setHuntMediaCloser(std::function<void()> close) {
+  huntMediaCloser() = std::move(close);
+}
+
+void CloseHuntMedia() {
+  if (huntMediaCloser()) huntMediaCloser()();
 }

@@ -23,6 +23,11 @@ void setHuntTimerSwitch(std::function<void(bool on)> onOff);
 void StartHuntTimer();
 void StopHuntTimer();
 
+// The hunting screen's own media window is closed before a film plays, so that only one
+// clip plays at a time.
+void setHuntMediaCloser(std::function<void()> close);
+void CloseHuntMedia();
+
 // The hunting screen shows the game clock; the main menu refreshes it after a load.
 void setHuntClockDisplay(std::function<void()> refresh);
 void RefreshHuntClock();
