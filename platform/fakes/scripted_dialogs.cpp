@@ -7,7 +7,7 @@ namespace platform {
 
 Answer ScriptedDialogs::MsgBox(const MessageBox& box) {
   shown_.push_back(box);
-  if (box.buttons == Buttons::Ok && (answers_.empty() || answers_.front() != Answer::Ok)) return Answer::Ok;
+  if (box.buttons == Buttons::Ok) return Answer::Ok;
   if (answers_.empty())
     throw std::logic_error("ScriptedDialogs: unscripted question: " + box.text.toStdString());
   const Answer next = answers_.front();

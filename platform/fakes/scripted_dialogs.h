@@ -11,7 +11,7 @@ namespace platform {
 
 class ScriptedDialogs final : public Dialogs {
  public:
-  // A box with only OK is answered OK without a script; a question takes the next scripted
+  // A box with only OK is answered OK and takes no scripted answer; a question takes the next scripted
   // answer and throws std::logic_error when there is none.
   Answer MsgBox(const MessageBox& box) override;
 
