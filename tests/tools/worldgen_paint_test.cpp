@@ -130,7 +130,7 @@ TEST(WorldgenPanoramas, EveryManifestLoadsWithTheHotspotsOfItsPlace) {
   writePanoramas(content(), tempRoot(dir));
   int manifests = 0;
   for (const World& w : allWorlds()) {
-    for (const Place& place : placesOf(w, content())) {
+    for (const Place& place : panoramaPlaces(w, content())) {
       const QStringList codes = place.optics ? QStringList{"63"} : QStringList{"6", "8", "1"};
       for (const QString& code : codes) {
         const fs::path file = tempRoot(dir) / "surnd" / (code + place.name + ".svh").toStdString();

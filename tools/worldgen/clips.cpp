@@ -249,10 +249,30 @@ void putZone(QByteArray& out, const HitZone& z) {
   }
 }
 
-// The picture nearest the middle of the slice record `r` (from 1) is read for.
-int middleFrameOf(int record) {
-  const double middleMs = record == 1 ? kSliceMs : (record + 0.5) * kSliceMs;
-  return std::min(kEncounterFrames - 1, int(std::lround(middleMs * kClipFps / 1000.0)));
+// The record the game reads while picture n is on screen.
+int recordOfFrame(int n) {
+  return std::max(1, frameTimeMs(n) / kSliceMs);
+}
+
+// The part of a zone the animal covers in every picture of a slice, so a click inside it hits
+// that part whichever picture is on screen; the middle picture's zone when they share none.
+HitZone commonZone(const HitZone& a, const HitZone& b) {
+  const HitZone both{std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
+                     std::min(a.bottom, b.bottom), a.code};
+  return both.left <= both.right && both.top <= both.bottom ? both : a;
+}
+
+HitRecord sliceRecord(int animal, int k, int record) {
+  QList<int> frames;
+  for (int n = 0; n < kEncounterFrames; ++n)
+    if (recordOfFrame(n) == record) frames << n;
+  if (frames.isEmpty()) frames << kEncounterFrames - 1;
+  HitRecord out = hitZonesOf(lookOf(animal), encounterPose(animal, k, frames[frames.size() / 2]));
+  for (const int n : frames) {
+    const HitRecord zones = hitZonesOf(lookOf(animal), encounterPose(animal, k, n));
+    for (size_t z = 0; z < out.size(); ++z) out[z] = commonZone(out[z], zones[z]);
+  }
+  return out;
 }
 
 }  // namespace
@@ -270,7 +290,7 @@ QImage clipBackdrop(QChar world, int k) {
 Pose encounterPose(int animal, int k, int n) {
   Pose pose = basePose(animal, k);
   const double walkIn = smooth(n / 30.0);
-  pose.x = 160 - pose.facing * (170 - 140 * walkIn) + pose.facing * k * 12;
+  pose.x = 160 - pose.facing * (110 - 90 * walkIn) + pose.facing * k * 12;
   pose.swing = n < 30 ? 0.5 : 0;
   pose.stride = std::min(n, 30) * 0.07;
   // Walks in, grazes, then lifts its head and looks about.
@@ -282,8 +302,7 @@ QByteArray hitZoneFile(int animal, int k) {
   const int lastRecord = frameTimeMs(kEncounterFrames - 1) / kSliceMs;
   QByteArray out;
   for (int r = 1; r <= std::max(1, lastRecord); ++r)
-    for (const HitZone& z : hitZonesOf(lookOf(animal), encounterPose(animal, k, middleFrameOf(r))))
-      putZone(out, z);
+    for (const HitZone& z : sliceRecord(animal, k, r)) putZone(out, z);
   return out;
 }
 

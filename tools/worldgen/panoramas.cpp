@@ -95,10 +95,20 @@ class PanoramaWriter {
 
 }  // namespace
 
+QList<Place> panoramaPlaces(const World& w, const Content& c) {
+  QList<Place> places = placesOf(w, c);
+  // At resolution code 6 a stand's name is its optics view's name, so the one file must also
+  // carry the paths away from the stand.
+  for (Place& optics : places)
+    for (const Place& stand : placesOf(w, c))
+      if (optics.optics && stand.name == QLatin1Char('3') + optics.name) optics.hotspots = stand.hotspots;
+  return places;
+}
+
 void writePanoramas(const Content& c, const fs::path& root) {
   PanoramaWriter writer(root);
   for (const World& w : allWorlds())
-    for (const Place& place : placesOf(w, c)) writer.write(w, place);
+    for (const Place& place : panoramaPlaces(w, c)) writer.write(w, place);
 }
 
 }  // namespace worldgen

@@ -4,10 +4,14 @@
 #pragma once
 
 #include "tools/worldgen/content.h"
+#include "tools/worldgen/world_layout.h"
 
 #include <filesystem>
 
 namespace worldgen {
+
+// The places with the hotspots their manifests carry: an optics view carries its stand's.
+QList<Place> panoramaPlaces(const World& w, const Content& c);
 
 void writePanoramas(const Content& c, const std::filesystem::path& root);
 
