@@ -26,7 +26,7 @@ QRectF box(QPointF centre, double w, double h) {
 }
 
 std::array<QLineF, 4> legsOf(const AnimalLook& l, const Pose& pose, const QRectF& trunk, double s) {
-  const double reach = l.legLength * s;
+  const double reach = l.legLength * (1 - 0.8 * pose.legFold) * s;
   std::array<QLineF, 4> legs;
   const double hips[] = {0.3, 0.22, -0.3, -0.36};  // fore pair, hind pair
   for (int i = 0; i < 4; ++i) {
@@ -43,9 +43,11 @@ std::array<QLineF, 4> legsOf(const AnimalLook& l, const Pose& pose, const QRectF
 }
 
 QRectF headgearOf(const AnimalLook& l, const QRectF& head, double s, int facing) {
-  const double size[] = {0, 0.55, 0.6, 0.7, 0.22, 0.12, 0.2, 0.12};
+  const double size[] = {0, 0.55, 0.3, 0.7, 0.22, 0.12, 0.2, 0.12};
   const double h = size[int(l.headgear)] * s;
   if (h <= 0) return {};
+  if (l.headgear == Headgear::Palmate)  // broad palms spread either side of the head
+    return {head.center().x() - facing * head.width() * 0.35 - h * 0.8, head.top() - h * 1.1, h * 1.6, h};
   const double w = l.headgear == Headgear::Curl ? head.width() * 0.9 : h * 1.1;
   const double back = facing > 0 ? head.left() - w * 0.35 : head.right() - w * 0.65;
   return {back, head.top() - h * 0.9, w, h};
@@ -57,7 +59,8 @@ Anatomy anatomyOf(const AnimalLook& l, const Pose& pose) {
   const double s = l.metres * pose.pixelsPerMetre;  // pixels per body length
   Anatomy a;
   const double trunkW = (isBird(l) ? 0.75 : 1.0) * s, trunkH = l.bodyHeight * s;
-  const QPointF centre(pose.x, pose.ground - l.legLength * s - trunkH / 2 + 0.1 * trunkH);
+  const QPointF centre(pose.x,
+                       pose.ground - l.legLength * (1 - 0.8 * pose.legFold) * s - trunkH / 2 + 0.1 * trunkH);
   a.trunk = box(centre, trunkW, trunkH);
   a.hump =
       l.hump > 0 ? box(at(pose, s, centre, 0.22, l.bodyHeight * 0.45), 0.45 * s, l.hump * s * 1.4) : QRectF();
@@ -151,7 +154,10 @@ void drawHeadgear(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose
     }
     case Headgear::Palmate:
       p.setBrush(bone);
-      p.drawChord(QRectF(g.left(), g.top() + g.height() * 0.2, g.width(), g.height() * 0.9), 0, 180 * 16);
+      p.drawChord(QRectF(g.left(), g.top(), g.width(), g.height() * 2), 0, 180 * 16);
+      for (int t = 0; t < 5; ++t)  // tines along the rim of the palm
+        p.drawLine(QPointF(g.left() + g.width() * (0.1 + 0.2 * t), g.top() + g.height() * 0.25),
+                   QPointF(g.left() + g.width() * (0.05 + 0.22 * t), g.top() - g.height() * 0.15));
       break;
     case Headgear::Curl:
       p.setPen(QPen(bone.darker(115), std::max(2.0, g.height() * 0.25), Qt::SolidLine, Qt::RoundCap));

@@ -24,6 +24,7 @@ struct Pose {
   double swing = 0;     // 0 standing .. 1 full running stride
   double headLift = 0;  // -1 grazing, 0 level, 1 alert
   double tilt = 0;      // degrees the body leans, for a fall
+  double legFold = 0;   // 0 standing .. 1 legs folded under, lying down
 };
 
 struct Anatomy {

@@ -126,7 +126,10 @@ Pose hitPose(int animal, int k, int n, bool arrow) {
   pose.swing = n < run ? 1 : 0;
   pose.stride = n * 0.16;
   pose.x += pose.facing * std::min(n, run) * 6;
-  pose.tilt = n < run ? -8 : 85 * smooth((n - run) / 8.0);
+  const double fall = n < run ? 0 : smooth((n - run) / 8.0);  // legs give way, it rolls and lies still
+  pose.tilt = n < run ? -8 : 14 * fall;
+  pose.legFold = fall;
+  pose.headLift = -fall;
   return pose;
 }
 
