@@ -124,7 +124,7 @@ QImage paintLodge(const QList<Spot>& spots) {
 
 QImage paintRange(const QList<Spot>& spots) {
   QImage image =
-      paintLandscape({QChar(u'P'), QStringLiteral("range"), kPanoramaWidth, kPanoramaHeight, 0.5, true});
+      paintLandscape({QChar(u'D'), QStringLiteral("range"), kPanoramaWidth, kPanoramaHeight, 0.5, true});
   QPainter p(&image);
   p.setRenderHint(QPainter::Antialiasing);
   for (const Spot& s : spots) {
@@ -166,7 +166,10 @@ QImage paintMap(QChar world, const QList<Spot>& spots) {
     p.setPen(QPen(QColor(0x7a2a1a), 3));
     p.setBrush(QColor(0xf4e8d0));
     p.drawEllipse(QRectF(s.area).adjusted(8, 8, -8, -8));
-    const QString label = s.name.mid(1).right(1).at(0).isDigit() ? s.name.right(1) : s.name.mid(1, 4);
+    const QString place = s.name.mid(1);
+    const QString label = place.back().isDigit()                    ? place.right(1)
+                          : place.contains(QStringLiteral("lodge")) ? QStringLiteral("lodge")
+                                                                    : QStringLiteral("camp");
     p.drawText(s.area, Qt::AlignCenter, label);
   }
   return image;

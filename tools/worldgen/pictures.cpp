@@ -104,7 +104,8 @@ QImage trophyPicture(int species) {
   QImage image = paintLandscape({world, QStringLiteral("trophy"), 320, 240, 0.42, false});
   QPainter p(&image);
   Pose pose;
-  pose.pixelsPerMetre = std::clamp(150 / lookOf(species).metres, 25.0, 90.0);
+  pose.pixelsPerMetre = std::clamp(105 / lookOf(species).metres, 25.0, 80.0);
+  pose.ground = 215;
   pose.headLift = 1;
   drawAnimal(p, lookOf(species), pose);
   return image;
