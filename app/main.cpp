@@ -4,10 +4,10 @@
 #include "app/error_handler.h"
 #include "shell/filer.h"
 #include "shell/game_state.h"
+#include "shell/gamestart.h"
 #include "shell/help_window.h"
+#include "shell/postcard.h"
 #include "shell/run_settings.h"
-#include "shell/save_file_layout.h"
-#include "shell/save_files.h"
 #include "shell/screen_instance.h"
 
 #include <QDir>
@@ -21,13 +21,35 @@ QString bundledWorld() {
   return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../world"));
 }
 
-void prepareGame() {
+bool startUp() {
   ensureInstallDefaults(QDir::cleanPath(bundledWorld()),
                         QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
   mapStoredDrives();
-  loadRunSettings();
-  Game.HelpFile = Game.MediaRoot + QStringLiteral("varnholt.hlp");
-  ReadSaveFile(Game.MediaRoot + QStringLiteral("data\\newgam.csv"), kGameKind);
+  Gamestart& start = ScreenInstance<Gamestart>::get();
+  start.Form_Load();
+  start.showFullScreen();
+  const bool goOn = start.Form_Activate();
+  ScreenInstance<Gamestart>::unload();
+  return goOn;
+}
+
+// Until the hunting screen arrives, a hunt set up on the postcard continues on the main
+// menu, which can save it, start again or quit.
+void runHunts() {
+  for (;;) {
+    Postcard& card = ScreenInstance<Postcard>::get();
+    card.showFullScreen();
+    if (card.exec() != QDialog::Accepted) return;
+    ScreenInstance<Postcard>::unload();
+    Game.ScreenState.clear();
+    Filer& menu = ScreenInstance<Filer>::get();
+    menu.Form_Load();
+    menu.showFullScreen();
+    menu.exec();
+    ScreenInstance<Filer>::unload();
+    if (Game.ScreenState != u"RESTART") return;
+    ScreenInstance<Postcard>::get().Form_Load();
+  }
 }
 
 }  // namespace
@@ -37,12 +59,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("Hunting"));
   QApplication::setOrganizationName(QStringLiteral("Hunting"));
   installHelpKey();
-  prepareGame();
-  // Until the start-up screens arrive, the game opens on its main menu.
-  Filer& menu = ScreenInstance<Filer>::get();
-  menu.Form_Load();
-  menu.showFullScreen();
-  menu.exec();
+  if (startUp()) runHunts();
   unloadAllScreens();
   return 0;
 }

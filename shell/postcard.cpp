@@ -17,6 +17,7 @@
 #include "shell/screen_layout.h"
 #include "shell/world_descriptions.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -37,13 +38,19 @@ Postcard::Postcard()
       loadgamebut(new QPushButton(QStringLiteral("Load Game"), this)),
       qhunt(new QPushButton(QStringLiteral("Quick Hunt"), this)),
       Description(new QTextEdit(this)),
+      Starthint(new QLabel(QStringLiteral("Click the picture to start your hunt"), this)),
       resize_(new platform::ReSize(this, kDesign)) {
   setWindowTitle(QStringLiteral("New Hunt"));
   resize(kDesign);
   qhunt->setCheckable(true);
   Description->setReadOnly(true);
+  // Paper behind the artwork, so the card reads as a card even before its picture loads.
+  setStyleSheet(QStringLiteral("Postcard { background: #e9dfc6; }"));
   Image2->setCursor(Qt::PointingHandCursor);
   Image2->setToolTip(QStringLiteral("Click the picture to start the hunt"));
+  Image2->setFrameShape(QFrame::Box);
+  Image2->setLineWidth(2);
+  Starthint->setAlignment(Qt::AlignCenter);
   Namebox->setPlaceholderText(QStringLiteral("Hunter"));
   for (int i = 0; i < 3; ++i) {
     Diffbutton[i] = new QRadioButton(QString::fromLatin1(kSkills[i]), this);
@@ -65,7 +72,8 @@ void Postcard::placeWidgets() {
   resize_->place(Nextbox, {420, 330, 150, 34}, 12);
   resize_->place(loadgamebut, {420, 375, 150, 34}, 12);
   resize_->place(Image2, {40, 60, 280, 210});
-  resize_->place(Description, {40, 280, 280, 110}, 10);
+  resize_->place(Starthint, {40, 272, 280, 20}, 10);
+  resize_->place(Description, {40, 296, 280, 110}, 10);
   for (int i = 0; i < 4; ++i) resize_->place(Selectworld[i], {350, 60 + 38 * i, 130, 32}, 11);
   for (int i = 0; i < 3; ++i) resize_->place(Diffbutton[i], {495, 64 + 34 * i, 125, 28}, 10);
   resize_->place(Namebox, {350, 230, 270, 28}, 11);
@@ -75,7 +83,7 @@ void Postcard::placeWidgets() {
 void Postcard::setbox() {
   // The front shows two buttons on the picture; the back everything that sets up a hunt.
   Nextbox->setVisible(!turned_);
-  for (QWidget* w : std::initializer_list<QWidget*>{Image2, Description, Namebox, qhunt})
+  for (QWidget* w : std::initializer_list<QWidget*>{Image2, Starthint, Description, Namebox, qhunt})
     w->setVisible(turned_);
   for (QWidget* w : Selectworld) w->setVisible(turned_);
   for (QWidget* w : Diffbutton) w->setVisible(turned_);
@@ -83,6 +91,9 @@ void Postcard::setbox() {
 }
 
 void Postcard::Form_Load() {
+  const int twips = std::max<int>(1, Game.TwipsPerPixel);
+  if (Game.ScreenWidth > 0 && Game.ScreenHeight > 0)
+    resize(Game.ScreenWidth / twips, Game.ScreenHeight / twips);
   Picture->setPicturePath(Game.MediaRoot + "art\\" + Game.ResCode + "splash.bmp");
   Image2->setPicturePath(Game.MediaRoot + "art\\world0.bmp");
   for (int world = 0; world < 4; ++world) {

@@ -7,6 +7,7 @@
 
 #include <array>
 
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
@@ -39,6 +40,7 @@ class Postcard : public QDialog {
   QPushButton* loadgamebut;
   QPushButton* qhunt;
   QTextEdit* Description;
+  QLabel* Starthint;
 
   bool turnedOver() const { return turned_; }
 
