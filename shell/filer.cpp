@@ -122,32 +122,34 @@ void Filer::openFileDialogue(char kind, const QString& heading) {
   Cancelbut->show();
 }
 
-void Filer::Loadgamebut_Click() {
-  openFileDialogue(kGameKind, QStringLiteral("Select a game to load"));
+void Filer::openLoadDialogue(char kind, const QString& heading) {
+  openFileDialogue(kind, heading);
   LoadOK->show();
   deluser->show();
+}
+
+void Filer::openSaveDialogue(char kind, const QString& heading) {
+  openFileDialogue(kind, heading);
+  Usename->setText(Game.HunterName.trimmed());
+  Usename->show();
+  SaveOK->show();
+  Usename->setFocus();
+}
+
+void Filer::Loadgamebut_Click() {
+  openLoadDialogue(kGameKind, QStringLiteral("Select a game to load"));
 }
 
 void Filer::loadequipbut_Click() {
-  openFileDialogue(kEquipmentKind, QStringLiteral("Select equipment to load"));
-  LoadOK->show();
-  deluser->show();
+  openLoadDialogue(kEquipmentKind, QStringLiteral("Select equipment to load"));
 }
 
 void Filer::Savegamebut_Click() {
-  openFileDialogue(kGameKind, QStringLiteral("Enter a Save game Name"));
-  Usename->setText(Game.HunterName.trimmed());
-  Usename->show();
-  SaveOK->show();
-  Usename->setFocus();
+  openSaveDialogue(kGameKind, QStringLiteral("Enter a Save game Name"));
 }
 
 void Filer::saveequipbut_Click() {
-  openFileDialogue(kEquipmentKind, QStringLiteral("Enter a Save Equipment Name"));
-  Usename->setText(Game.HunterName.trimmed());
-  Usename->show();
-  SaveOK->show();
-  Usename->setFocus();
+  openSaveDialogue(kEquipmentKind, QStringLiteral("Enter a Save Equipment Name"));
 }
 
 void Filer::List1_Click() {

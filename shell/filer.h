@@ -74,6 +74,8 @@ class Filer : public QDialog {
   QPushButton* button(const QString& caption, QRect designRect, void (Filer::*handler)());
   void placeWidgets();
   void openFileDialogue(char kind, const QString& heading);
+  void openLoadDialogue(char kind, const QString& heading);
+  void openSaveDialogue(char kind, const QString& heading);
   void fillList();
   void closeWith(const QString& handOver);
   std::optional<QString> selectedEntry() const;

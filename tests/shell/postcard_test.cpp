@@ -32,6 +32,18 @@ class PostcardTest : public GameFixture {
     for (int i = 0; i < 20; ++i) random->push(value);
   }
 
+  // Opens the main menu from the postcard and loads the first game listed.
+  void loadFirstGameThroughTheMenu() {
+    platform::ScopedService<platform::ScreensHost, platform::ScriptedScreens> screens;
+    screens->on("Filer", [](QWidget& w) {
+      auto& menu = static_cast<Filer&>(w);
+      menu.List1->setCurrentRow(0);
+      menu.LoadOK_Click();
+      return 1;
+    });
+    postcard.Loadgamebut_Click();
+  }
+
   platform::ScopedService<platform::Random, platform::ScriptedRandom> random;
   Postcard postcard;
 };
@@ -131,15 +143,8 @@ TEST_F(PostcardTest, AMissingQuickHuntOutfitKeepsTheDefaults) {
 TEST_F(PostcardTest, AGameSavedAtTheRangeReopensAtTheLodge) {
   Game.PlaceMode = 5;
   ASSERT_TRUE(writeSaveFile(saveFilePath("RANGE", kGameKind), kGameKind));
-  platform::ScopedService<platform::ScreensHost, platform::ScriptedScreens> screens;
-  screens->on("Filer", [](QWidget& w) {
-    auto& menu = static_cast<Filer&>(w);
-    menu.List1->setCurrentRow(0);
-    menu.LoadOK_Click();
-    return 1;
-  });
   Game.PlaceMode = 0;
-  postcard.Loadgamebut_Click();
+  loadFirstGameThroughTheMenu();
   EXPECT_EQ(Game.ScreenState, "LOADED");
   EXPECT_EQ(Game.PlaceMode, 0);
   EXPECT_EQ(Game.StartPano, "3lodge");
@@ -152,14 +157,7 @@ TEST_F(PostcardTest, AGameSavedAtAStandReopensThereWithItsSight) {
   Game.AreaLetter = "Y";
   Game.CurWeapon = 8;
   ASSERT_TRUE(writeSaveFile(saveFilePath("STAND", kGameKind), kGameKind));
-  platform::ScopedService<platform::ScreensHost, platform::ScriptedScreens> screens;
-  screens->on("Filer", [](QWidget& w) {
-    auto& menu = static_cast<Filer&>(w);
-    menu.List1->setCurrentRow(0);
-    menu.LoadOK_Click();
-    return 1;
-  });
-  postcard.Loadgamebut_Click();
+  loadFirstGameThroughTheMenu();
   EXPECT_EQ(Game.StartPano, "3Ystnd2");
   EXPECT_EQ(Game.SightX, 47);
 }
