@@ -9,6 +9,8 @@
 #include "tools/worldgen/clip_writer.h"
 #include "tools/worldgen/clips.h"
 #include "tools/worldgen/content.h"
+#include "tools/worldgen/landscape.h"
+#include "tools/worldgen/panorama_scenes.h"
 #include "tools/worldgen/panoramas.h"
 #include "tools/worldgen/records.h"
 #include "tools/worldgen/sounds.h"
@@ -149,6 +151,33 @@ TEST(WorldgenPanoramas, EveryManifestLoadsWithTheHotspotsOfItsPlace) {
     }
   }
   EXPECT_GT(manifests, 150);
+}
+
+TEST(WorldgenPanoramas, ScenesJoinUpAtTheSeamOfTheTurn) {
+  for (const QChar world : {u'P', u'D', u'B', u'T', u'Y'}) {
+    const QImage strip = paintLandscape({world, QStringLiteral("seam"), 1024, 192, 0.5, true});
+    int differing = 0;
+    for (int y = 0; y < strip.height(); ++y)
+      differing += colourDistance(strip.pixel(0, y), strip.pixel(strip.width() - 1, y)) > 90;
+    // Neighbouring columns across the seam differ only where an edge happens to fall.
+    EXPECT_LT(differing, strip.height() / 8) << QString(world).toStdString();
+  }
+}
+
+TEST(WorldgenPanoramas, HotspotsOfAPlaceNeverCoverOneAnother) {
+  for (const World& w : allWorlds()) {
+    for (const Place& place : panoramaPlaces(w, content())) {
+      const QList<Spot> spots = layoutSpots(place.hotspots, kPanoramaWidth, kPanoramaHeight);
+      for (qsizetype i = 0; i < spots.size(); ++i) {
+        EXPECT_TRUE(QRect(0, 0, kPanoramaWidth, kPanoramaHeight).contains(spots[i].area))
+            << spots[i].name.toStdString();
+        for (qsizetype j = i + 1; j < spots.size(); ++j)
+          EXPECT_FALSE(spots[i].area.intersects(spots[j].area))
+              << place.name.toStdString() << ": " << spots[i].name.toStdString() << " and "
+              << spots[j].name.toStdString();
+      }
+    }
+  }
 }
 
 TEST(WorldgenSounds, CallsAndAmbientTracksOutlastTheRangesThatCutThem) {

@@ -104,6 +104,13 @@ double ridgeAt(double x, double width, const double (&phases)[4], double amplitu
                       0.17 * std::sin(11 * t + phases[2]) + 0.08 * std::sin(23 * t + phases[3]));
 }
 
+// An ellipse on a strip that is a full turn: what runs off one end comes back at the other.
+void drawWrapped(QPainter& p, const QRectF& r, int width) {
+  p.drawEllipse(r);
+  if (r.left() < 0) p.drawEllipse(r.translated(width, 0));
+  if (r.right() > width) p.drawEllipse(r.translated(-width, 0));
+}
+
 void paintSky(QPainter& p, const Scenery& s, int w, double horizonY, StableRandom& rnd) {
   QLinearGradient sky(0, 0, 0, horizonY);
   sky.setColorAt(0, s.skyTop);
@@ -114,7 +121,7 @@ void paintSky(QPainter& p, const Scenery& s, int w, double horizonY, StableRando
     const double x = rnd.between(0, w), y = rnd.between(0.08, 0.55) * horizonY, cw = rnd.between(60, 220);
     p.setBrush(QColor(255, 255, 255, int(rnd.between(30, 90))));
     for (int k = 0; k < 4; ++k)
-      p.drawEllipse(QRectF(x + k * cw * 0.22 - cw / 2, y - k % 2 * 4, cw * 0.5, cw * 0.12));
+      drawWrapped(p, QRectF(x + k * cw * 0.22 - cw / 2, y - k % 2 * 4, cw * 0.5, cw * 0.12), w);
   }
 }
 
@@ -161,7 +168,8 @@ void paintGround(QPainter& p, const Scenery& s, const LandscapeRequest& r, doubl
     c.setAlpha(snow ? 150 : 140);
     p.setBrush(c);
     const double size = 1 + depth * (snow ? 12 : 5);
-    p.drawEllipse(QRectF(rnd.between(0, r.width), y, size * (snow ? 4.5 : 2.2), size * (snow ? 0.45 : 0.6)));
+    drawWrapped(p, QRectF(rnd.between(0, r.width), y, size * (snow ? 4.5 : 2.2), size * (snow ? 0.45 : 0.6)),
+                r.width);
   }
 }
 

@@ -17,11 +17,17 @@ void put16(QByteArray& out, quint16 v) {
   qToLittleEndian(v, b);
   out.append(b, 2);
 }
+// Byte by byte, so no pointer runs past the bytes in view of the optimiser.
+quint32 getLittleEndian(const QByteArray& in, qsizetype at, int size) {
+  quint32 v = 0;
+  for (int i = size - 1; i >= 0; --i) v = v << 8 | uchar(in.at(at + i));
+  return v;
+}
 quint32 get32(const QByteArray& in, qsizetype at) {
-  return qFromLittleEndian<quint32>(in.constData() + at);
+  return getLittleEndian(in, at, 4);
 }
 quint16 get16(const QByteArray& in, qsizetype at) {
-  return qFromLittleEndian<quint16>(in.constData() + at);
+  return quint16(getLittleEndian(in, at, 2));
 }
 
 }  // namespace
