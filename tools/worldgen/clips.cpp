@@ -231,8 +231,13 @@ class ClipSet {
     }
     const QImage wide =
         paintLandscape({w.letter, QStringLiteral("film"), kClipWidth * 3, kClipHeight, 0.45, false});
-    const fs::path path = file("art", letter + "Movie", ".avi");
-    const QString title = w.name;
+    addFilm(file("art", letter + "Movie", ".avi"), wide, w.name);
+    // The game's intro flies over the first world it paints.
+    if (fresh(QStringLiteral("vrnIntro")))
+      addFilm(file("art", "vrnIntro", ".avi"), wide, QStringLiteral("Hunting"));
+  }
+
+  void addFilm(const fs::path& path, const QImage& wide, const QString& title) {
     jobs_.push_back([=] {
       writeClip(path, kFilmFrames, [&](QImage& picture, int n) { paintAreaFilm(picture, wide, title, n); });
     });

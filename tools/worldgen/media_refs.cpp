@@ -71,6 +71,7 @@ void addClips(Collector& out, const World& w, const Content& c) {
     }
   }
   out.add(QStringLiteral("art\\") + w.letter + QStringLiteral("Movie.avi"), MediaKind::Clip);
+  out.add(QStringLiteral("art\\vrnIntro.avi"), MediaKind::Clip);
   for (int k = 0; k < 2; ++k)
     out.add(QStringLiteral("art\\") + w.letter + QStringLiteral("trak") + QString::number(k) +
                 QStringLiteral(".avi"),
