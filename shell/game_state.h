@@ -18,6 +18,7 @@ inline constexpr int kOwnedItemCount = 66;  // entries 1..65
 inline constexpr int kTagCount = 17;        // species 1..16
 inline constexpr int kSightCount = 11;      // weapons 0..9; entry 10 is never used
 inline constexpr int16_t kEmptyOwnedEntry = 255;
+inline constexpr int kConvLineCount = 51;  // lines a speech key may own
 
 // Tag states.
 inline constexpr int16_t kTagFilled = 32;
@@ -113,7 +114,13 @@ struct GameState {
   bool VideosOn = true;        // intro, area and tracking films
   bool TestRewarded = false;   // the hunter's test prizes were paid this hunt
   bool SponsorOn = true;       // the world has a sponsor and its pages
-  QStringList SpeechLines;     // lines of the conversation in progress
+  // The conversation in progress: the numbers of its recorded lines, how many, and the stretch
+  // of sound of the line now current. The list position is SayIndex.
+  std::array<int16_t, kConvLineCount> ConvLines{};
+  int16_t ConvCount = 0;
+  QString ConvStart;
+  QString ConvEnd;
+  QString ConvPath;
 };
 
 // The game's global values. Reset with `Game = GameState{}`.
