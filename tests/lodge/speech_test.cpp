@@ -164,11 +164,16 @@ TEST_F(SpeechTest, AKeyWithOneLineCannotBePaged) {
   EXPECT_FALSE(nextUsable);
 }
 
-TEST_F(SpeechTest, AreaSoundPlaysFourSecondsFromARandomStart) {
+TEST_F(SpeechTest, AreaSoundPlaysASnippetOfTheWorldsRecordingFromARandomStart) {
   window().setLength(10000);
-  random->push(0.5);
+  random->push(0.5);  // start Int(0.5 * 6000)
+  random->push(0.0);  // the shortest snippet
   talk::AreaSound();
-  EXPECT_EQ(window().log(), QStringList({"file D:\\sound\\aDakota.wav", "PLAY From 3000 to 7000"}));
+  random->push(0.0);
+  random->push(0.9999);  // the longest
+  talk::AreaSound();
+  EXPECT_EQ(window().log(), QStringList({"file D:\\sound\\aDakota.wav", "PLAY From 3000 to 3600", "Close",
+                                         "file D:\\sound\\aDakota.wav", "PLAY From 0 to 4000"}));
   EXPECT_EQ(Game.MediaBusy, -1);
 }
 

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "lodge/lodge_frame.h"
+
+#include "platform/runtime.h"
+#include "shell/game_state.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace lodge {
+namespace {
+
+constexpr int kTopOffsetTwips = 60;
+
+// The hunting screen when it is up; else the screen the game runs on, at the game's size.
+QRect huntingScreenRect() {
+  for (QWidget* w : QApplication::topLevelWidgets())
+    if (w->isVisible() && QLatin1String(w->metaObject()->className()) == QLatin1String("surround"))
+      return w->geometry();
+  const QScreen* screen = QApplication::primaryScreen();
+  QRect rect = screen ? screen->geometry() : QRect(0, 0, 1024, 768);
+  const int twips = std::max<int>(1, Game.TwipsPerPixel);
+  if (Game.ScreenWidth > 0 && Game.ScreenHeight > 0)
+    rect.setSize(QSize(Game.ScreenWidth / twips, Game.ScreenHeight / twips));
+  return rect;
+}
+
+const char* const kLodgeStyle =
+    "QLabel[paper=\"true\"] { color: #2b1d0e; background: rgba(250, 243, 226, 228);"
+    " border: 1px solid rgba(120, 90, 40, 160); border-radius: 4px; padding: 2px 6px; }"
+    "QPushButton { color: #2b1d0e; background: #e9dcb8; border: 2px solid #7a5a24;"
+    " border-radius: 5px; padding: 2px 8px; font-weight: bold; }"
+    "QPushButton:hover { background: #f5ead0; }"
+    "QPushButton:pressed { background: #d4c39a; }"
+    "QPushButton:disabled { color: #8a7a60; border-color: #a89470; }";
+
+}  // namespace
+
+void prepareLodgeScreen(QWidget& screen, const QString& title) {
+  screen.setWindowTitle(title);
+  screen.setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+  screen.setStyleSheet(QString::fromLatin1(kLodgeStyle));
+  screen.resize(kLodgeDesign);
+}
+
+void onPaper(QWidget& label) {
+  label.setProperty("paper", true);
+}
+
+QString moneyText(int16_t money) {
+  return QStringLiteral("$") + rt::numberText(money);
+}
+
+QString lodgeArtPath(const QString& name) {
+  return Game.MediaRoot + QStringLiteral("art\\") + Game.AreaLetter + name;
+}
+
+void placeOverHuntingScreen(QWidget& screen) {
+  const int twips = std::max<int>(1, Game.TwipsPerPixel);
+  const QRect hunt = huntingScreenRect();
+  if (Game.LayoutW > 0 && Game.LayoutY > 0) screen.resize(Game.LayoutW / twips, Game.LayoutY / twips);
+  const int left = hunt.left() + Game.LayoutX / twips;
+  // The 1024 offset is wider than a 1024 screen leaves free; never hang off its right edge.
+  const int x = std::max(hunt.left(), std::min(left, hunt.right() + 1 - screen.width()));
+  screen.move(x, hunt.top() + kTopOffsetTwips / twips);
+}
+
+}  // namespace lodge
