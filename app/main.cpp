@@ -2,7 +2,7 @@
 // The game's entry point: the application object that catches what handlers throw, the
 // drive map, the stored settings and the defaults of a new game, then the first screen.
 #include "app/error_handler.h"
-#include "shell/filer.h"
+#include "hunt/surround.h"
 #include "shell/game_state.h"
 #include "shell/gamestart.h"
 #include "shell/help_window.h"
@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QStandardPaths>
+#include <QTimer>
 
 namespace {
 
@@ -33,23 +34,35 @@ bool startUp() {
   return goOn;
 }
 
-// Until the hunting screen arrives, a hunt set up on the postcard continues on the main
-// menu, which can save it, start again or quit.
-void runHunts() {
-  for (;;) {
-    Postcard& card = ScreenInstance<Postcard>::get();
-    card.showFullScreen();
-    if (card.exec() != QDialog::Accepted) return;
-    ScreenInstance<Postcard>::unload();
-    Game.ScreenState.clear();
-    Filer& menu = ScreenInstance<Filer>::get();
-    menu.Form_Load();
-    menu.showFullScreen();
-    menu.exec();
-    ScreenInstance<Filer>::unload();
-    if (Game.ScreenState != u"RESTART") return;
-    ScreenInstance<Postcard>::get().Form_Load();
+// The new-hunt screen sets up a hunt, or loads one; false when the player leaves instead.
+bool setUpHunt() {
+  Postcard& card = ScreenInstance<Postcard>::get();
+  card.showFullScreen();
+  const bool accepted = card.exec() == QDialog::Accepted;
+  ScreenInstance<Postcard>::unload();
+  return accepted;
+}
+
+// The hunt runs on the hunting screen from the place the new-hunt screen chose.
+void startHunting() {
+  if (!setUpHunt()) {
+    QCoreApplication::quit();
+    return;
   }
+  surround& hunting = ScreenInstance<surround>::get();
+  hunting.Form_Load();
+  hunting.Surrinit();
+  hunting.showFullScreen();
+}
+
+// Starting again goes back through the start screen, as on the first start.
+void restart() {
+  ScreenInstance<surround>::get().hide();
+  if (!startUp()) {
+    QCoreApplication::quit();
+    return;
+  }
+  startHunting();
 }
 
 }  // namespace
@@ -59,7 +72,16 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("Hunting"));
   QApplication::setOrganizationName(QStringLiteral("Hunting"));
   installHelpKey();
-  if (startUp()) runHunts();
+  // Screens come and go between the start screen, the postcard and the hunt; the game ends
+  // only when the hunting screen closes or the player quits.
+  QApplication::setQuitOnLastWindowClosed(false);
+  // Asked for at the end of a handler; the start screen comes up once that handler is done.
+  surround::setRestartHandler([] { QTimer::singleShot(0, restart); });
+  int result = 0;
+  if (startUp()) {
+    QTimer::singleShot(0, startHunting);
+    result = QApplication::exec();
+  }
   unloadAllScreens();
-  return 0;
+  return result;
 }

@@ -20,7 +20,10 @@
 namespace talk {
 namespace {
 
-constexpr int64_t kAreaStretchMs = 4000;
+// The world's background recording plays in snippets of 0.6 to 4 seconds.
+constexpr int64_t kLongestSnippetMs = 4000;
+constexpr int64_t kShortestSnippetMs = 600;
+constexpr double kSnippetSpreadMs = 3401;
 
 // One recorded line, as the conversation box shows it.
 struct Line {
@@ -141,12 +144,13 @@ void AreaSound() {
   auto& media = huntMediaWindow();
   const QString path = Game.MediaRoot + QStringLiteral("sound\\a") + Game.AreaCode + QStringLiteral(".wav");
   media.setFileName(path);
-  // A recording shorter than one stretch plays from its start.
-  const int64_t start =
-      std::max<int64_t>(0, rt::Int(platform::Rnd() * double(media.length() - kAreaStretchMs)));
+  // A recording shorter than the longest snippet plays from its start.
+  const auto start =
+      std::max<int64_t>(0, int64_t(rt::Int(platform::Rnd() * double(media.length() - kLongestSnippetMs))));
+  const auto duration = int64_t(rt::Int(platform::Rnd() * kSnippetSpreadMs + kShortestSnippetMs));
   Game.ConvPath = path;
   Game.ConvStart = QString::number(start);
-  Game.ConvEnd = QString::number(start + kAreaStretchMs);
+  Game.ConvEnd = QString::number(start + duration);
   Game.MediaBusy = -1;
   media.command(QStringLiteral("PLAY From ") + Game.ConvStart + QStringLiteral(" to ") + Game.ConvEnd);
 }

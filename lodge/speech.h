@@ -23,7 +23,7 @@ void InitSaylist(const QString& key);
 void Saylist(int16_t position);
 // Plays the current line.
 void Soundplay();
-// Plays a stretch of the world's background recording instead of a line.
+// Plays a snippet of the world's background recording instead of a line.
 void AreaSound();
 
 }  // namespace talk

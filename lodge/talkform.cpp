@@ -16,6 +16,7 @@ namespace {
 
 constexpr QSize kBoxSize{560, 200};
 constexpr QSize kSpeakerSize{120, 150};
+constexpr int kHeadBoxClearance = 200;
 
 }  // namespace
 
@@ -57,13 +58,14 @@ void Talkform::resizeEvent(QResizeEvent* event) {
   Closeframe->setGeometry(width() - 106, buttons, 90, 30);
 }
 
-// Low in the middle of the hunting view, where it hides the least of the scene.
+// Low in the middle of the hunting view, above its head box, where it hides the least.
 void Talkform::placeOverHuntingScreen() {
   const QRect screen = QApplication::primaryScreen() ? QApplication::primaryScreen()->geometry() : QRect();
   const int twips = std::max<int>(1, Game.TwipsPerPixel);
   const int screenWidth = Game.ScreenWidth > 0 ? Game.ScreenWidth / twips : screen.width();
   const int screenHeight = Game.ScreenHeight > 0 ? Game.ScreenHeight / twips : screen.height();
-  move(screen.left() + (screenWidth - width()) / 2, screen.top() + screenHeight - height() - 60);
+  move(screen.left() + (screenWidth - width()) / 2,
+       screen.top() + screenHeight - height() - kHeadBoxClearance);
 }
 
 void Talkform::Form_Load() {

@@ -111,6 +111,7 @@ struct GameState {
   int16_t DamagedTrophy = 0;   // the trophy was spoiled by the shot
   int16_t TrackedSpecies = 0;  // species of the wounded animal being tracked
   int16_t ShotYards = 0;       // distance of the last shot
+  QString WoundedPlace;        // the trail point where the wounded animal lies, upper-cased
   bool VideosOn = true;        // intro, area and tracking films
   bool TestRewarded = false;   // the hunter's test prizes were paid this hunt
   bool SponsorOn = true;       // the world has a sponsor and its pages

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// The head box's buttons, the moves to camp and lodge, and the way back from the main menu.
+#include "hunt/location_table.h"
+#include "hunt/modal_screen.h"
+#include "hunt/surround.h"
+#include "lodge/hguide.h"
+#include "lodge/inventory.h"
+#include "lodge/weapons.h"
+#include "platform/files.h"
+#include "platform/panorama/sv_control.h"
+#include "shell/data_tables.h"
+#include "shell/filer.h"
+#include "shell/game_state.h"
+#include "shell/panorama_names.h"
+#include "shell/screen_layout.h"
+#include "shell/shared_procedures.h"
+
+#include <QApplication>
+#include <QTimer>
+
+namespace {
+
+constexpr int32_t kFacingSouth = 648000;
+const QString kPublisherSite = QStringLiteral("https://www.varnholt-games.example/");
+
+}  // namespace
+
+void surround::bntHuntgd_Click() {
+  Clearheadbox();
+  showModalScreen<Hguide>();
+  Setheadbox();
+}
+
+void surround::butInv_Click() {
+  Clearheadbox();
+  showModalScreen<Inventory>();
+  Setheadbox();
+  SetItembuttons();
+  Scopeoff();
+}
+
+void surround::ChangeWep_Click() {
+  Clearheadbox();
+  showModalScreen<Weapons>();
+  Setheadbox();
+}
+
+void surround::Campbut_Click() {
+  Scopeoff();
+  loadPanorama(campLocation(), svcontrol1->Heading());
+  Game.PlaceMode = 2;
+  Setheadbox();
+  AddTime(1, QStringLiteral("h"));
+}
+
+void surround::SetToCamp() {
+  Scopeoff();
+  const auto camp = findLocation(QStringLiteral("^camp"));
+  if (!camp) return;
+  Game.PlaceMode = camp->loctype;
+  loadPanorama(camp->filejump, svcontrol1->Heading());
+  Setheadbox();
+}
+
+void surround::Settolodge() {
+  Scopeoff();
+  const auto lodge = findLocation(QStringLiteral("^3lodge"));
+  if (!lodge) return;
+  Game.PlaceMode = lodge->loctype;
+  loadPanorama(lodge->filejump, svcontrol1->Heading());
+  Setheadbox();
+}
+
+void surround::Mainmenu_Click() {
+  Clearheadbox();
+  Game.ScreenState = QStringLiteral("MAINMENU");
+  showModalScreen<Filer>();
+  if (Game.ScreenState == u"LOADED") {
+    LoadNotEquipScores();
+    ComputeEquipScores();
+    // A game saved at the range resumes at the lodge.
+    if (Game.PlaceMode == 5) Game.PlaceMode = 0;
+    if (Game.PlaceMode == 3) SetWeaponSight();
+    loadPanorama(loadedPlaceLocation(Game.PlaceMode), kFacingSouth);
+  }
+  SetItembuttons();
+  Scopeoff();
+  Setheadbox();
+  if (Game.ScreenState == u"QUIT GAME") {
+    close();
+    QCoreApplication::quit();
+    return;
+  }
+  CHKRestartGame();
+}
+
+void surround::btnMdnweb_Click() {
+  if (!Game.SponsorOn) return;
+  Timer2->stop();
+  OpenWebPage(this, Game.MediaRoot + QStringLiteral("mardens\\index.htm"));
+}
+
+void surround::btnQuillonweb_Click() {
+  Timer2->stop();
+  const bool localPages = platform::files().exists(Game.MediaRoot + QStringLiteral("qlpage"));
+  OpenWebPage(this, localPages ? Game.MediaRoot + QStringLiteral("qlpage\\index.htm") : kPublisherSite);
+}
+
+void surround::btnRedfern_Click() {
+  Timer2->stop();
+  OpenWebPage(this, Game.MediaRoot + QStringLiteral("redfern\\index.htm"));
+}
