@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "shooting/record_book.h"
+
+#include "platform/picture_box.h"
+#include "platform/records/record_data.h"
+#include "platform/resize_widget.h"
+#include "shell/game_state.h"
+#include "shell/names.h"
+#include "shooting/scene_layout.h"
+#include "shooting/trophy_record.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+
+namespace {
+
+constexpr QSize kDesign{640, 480};
+constexpr QRect kGridRect{30, 150, 580, 270};
+// Shares of the grid's width per column: the texts of size, location and time run longest.
+constexpr int kColumnShares[kTrophyColumns] = {11, 9, 14, 10, 9, 13, 8, 15, 11};
+// Rows kept when the grid is cleared: the headings and one row under them.
+constexpr int kKeptRows = 2;
+
+QString quoted(const QString& text) {
+  return u'"' + text + u'"';
+}
+
+}  // namespace
+
+RecordBook::RecordBook()
+    : Background(new platform::PictureBox(this)),
+      Trophypic(new platform::PictureBox(this)),
+      Specieslab(new QLabel(this)),
+      VSFMyGrid(new QTableWidget(kKeptRows, kTrophyColumns, this)),
+      catback(new QPushButton(QStringLiteral("<< Back"), this)),
+      Catnext(new QPushButton(QStringLiteral("Next >>"), this)),
+      Closebox(new QPushButton(QStringLiteral("Close"), this)),
+      VsData10(std::make_unique<platform::RecordData>()),
+      resize_(new platform::ReSize(this, kDesign)) {
+  setWindowTitle(QStringLiteral("Record Book"));
+  setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+  setStyleSheet(
+      QStringLiteral("RecordBook { background: #3a2a1a; } QLabel { color: #f4e8c8; }"
+                     "QTableWidget { background: #f6efdc; color: #1e160c; gridline-color: #b8a880; }"));
+  Specieslab->setAlignment(Qt::AlignCenter);
+  QFont bold = Specieslab->font();
+  bold.setBold(true);
+  Specieslab->setFont(bold);
+  VSFMyGrid->horizontalHeader()->hide();
+  VSFMyGrid->verticalHeader()->hide();
+  VSFMyGrid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  VSFMyGrid->setSelectionMode(QAbstractItemView::NoSelection);
+  connect(catback, &QPushButton::clicked, this, &RecordBook::catback_Click);
+  connect(Catnext, &QPushButton::clicked, this, &RecordBook::Catnext_Click);
+  connect(Closebox, &QPushButton::clicked, this, &RecordBook::Closebox_Click);
+  placeWidgets();
+  resize(kDesign);
+}
+
+RecordBook::~RecordBook() = default;
+
+void RecordBook::placeWidgets() {
+  resize_->place(Background, QRect(QPoint(0, 0), kDesign));
+  resize_->place(Trophypic, {30, 20, 160, 120});
+  resize_->place(Specieslab, {210, 60, 400, 40}, 20);
+  resize_->place(VSFMyGrid, kGridRect, 8);
+  resize_->place(catback, {150, 432, 100, 30}, 10);
+  resize_->place(Catnext, {270, 432, 100, 30}, 10);
+  resize_->place(Closebox, {390, 432, 100, 30}, 10);
+}
+
+void RecordBook::Form_Load() {
+  placeFullScreenScene(*this);
+  Background->setPicturePath(Game.MediaRoot + QStringLiteral("art\\") + Game.AreaLetter +
+                             QStringLiteral("trophy.bmp"));
+  if (Game.ScreenMode == kBrowseMode) {
+    page_ = 1;
+    DoViewData(1);
+    showPage();
+  }
+  if (Game.ScreenMode == kAppendMode) {
+    appendTrophy();
+    page_ = Game.CurAnimal;
+    showPage();
+    DoViewData(page_);
+  }
+}
+
+void RecordBook::appendTrophy() {
+  VsData10->SetDatabaseName(trophyBookPath());
+  VsData10->Refresh();
+  VsData10->AddNew();
+  for (const auto& [field, value] : newTrophyRecord()) VsData10->SetField(field, value);
+  VsData10->Update();
+}
+
+void RecordBook::showPage() {
+  Specieslab->setText(SpeciesName(page_));
+  Trophypic->setPicturePath(Game.MediaRoot + QStringLiteral("art\\Trophy") + QString::number(page_) +
+                            QStringLiteral(".bmp"));
+}
+
+void RecordBook::catback_Click() {
+  page_ = previousTrophyPage(page_);
+  DoViewData(page_);
+  showPage();
+}
+
+void RecordBook::Catnext_Click() {
+  page_ = nextTrophyPage(page_);
+  DoViewData(page_);
+  showPage();
+}
+
+void RecordBook::writeHeadings() {
+  const QStringList headings = trophyHeadings();
+  int shares = 0;
+  for (int share : kColumnShares) shares += share;
+  const int width = VSFMyGrid->viewport()->width();
+  for (int column = 0; column < kTrophyColumns; ++column) {
+    auto* item = new QTableWidgetItem(headings[column]);
+    QFont font = item->font();
+    font.setBold(true);
+    item->setFont(font);
+    item->setBackground(QColor(0xd8c8a0));
+    VSFMyGrid->setItem(0, column, item);
+    VSFMyGrid->setColumnWidth(column, width * kColumnShares[column] / shares);
+  }
+}
+
+void RecordBook::addRow(const QString& line) {
+  const int row = VSFMyGrid->rowCount();
+  VSFMyGrid->insertRow(row);
+  const QStringList cells = trophyRowCells(line);
+  for (int column = 0; column < cells.size(); ++column)
+    VSFMyGrid->setItem(row, column, new QTableWidgetItem(cells[column]));
+}
+
+void RecordBook::DoViewData(int16_t page) {
+  while (VSFMyGrid->rowCount() > kKeptRows) VSFMyGrid->removeRow(VSFMyGrid->rowCount() - 1);
+  VSFMyGrid->clearContents();
+  VSFMyGrid->setUpdatesEnabled(false);
+  writeHeadings();
+  VsData10->SetDatabaseName(trophyBookPath());
+  VsData10->SetCriteria(QStringLiteral("Field(\"Animaltype\") = ") + quoted(SpeciesName(page).trimmed()));
+  VsData10->FindFirst();
+  while (!VsData10->NoMatch()) {
+    addRow(trophyRowLine(*VsData10));
+    VsData10->FindNext();
+  }
+  VSFMyGrid->setUpdatesEnabled(true);
+}
+
+void RecordBook::Closebox_Click() {
+  close();
+}

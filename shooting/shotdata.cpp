@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "shooting/shotdata.h"
+
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/picture_box.h"
+#include "platform/printer.h"
+#include "platform/random.h"
+#include "platform/resize_widget.h"
+#include "platform/runtime.h"
+#include "platform/text_file.h"
+#include "shell/game_state.h"
+#include "shell/names.h"
+#include "shooting/scene_layout.h"
+#include "shooting/trophy_bonus.h"
+#include "shooting/trophy_record.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+constexpr QSize kDesign{640, 480};
+const QString kTitle = QStringLiteral("Trophy Page");
+
+double rnd() {
+  return platform::Rnd();
+}
+
+}  // namespace
+
+Shotdata::Shotdata()
+    : Awardpic(new platform::PictureBox(this)),
+      Logopic(new platform::PictureBox(this)),
+      Trophypic(new platform::PictureBox(this)),
+      Takenlab(new QLabel(this)),
+      Specieslab(new QLabel(this)),
+      Sizelab(new QLabel(this)),
+      Weightlab(new QLabel(this)),
+      Weaponlab(new QLabel(this)),
+      Arealab(new QLabel(this)),
+      Rangelab(new QLabel(this)),
+      Timelab(new QLabel(this)),
+      Skilllab(new QLabel(this)),
+      Awardlab(new QLabel(this)),
+      printbut(new QPushButton(QStringLiteral("Print"), this)),
+      Closebox(new QPushButton(QStringLiteral("Close"), this)),
+      resize_(new platform::ReSize(this, kDesign)) {
+  setWindowTitle(kTitle);
+  setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+  // Parchment behind the artwork, dark ink on it.
+  setStyleSheet(QStringLiteral("Shotdata { background: #efe4c8; } QLabel { color: #2a1e10; }"));
+  Trophypic->setFrameShape(QFrame::Box);
+  Trophypic->setLineWidth(3);
+  Specieslab->setAlignment(Qt::AlignCenter);
+  Awardlab->setAlignment(Qt::AlignCenter);
+  Awardlab->setWordWrap(true);
+  QFont bold = Specieslab->font();
+  bold.setBold(true);
+  Specieslab->setFont(bold);
+  Awardlab->setFont(bold);
+  connect(printbut, &QPushButton::clicked, this, &Shotdata::printbut_Click);
+  connect(Closebox, &QPushButton::clicked, this, &Shotdata::Closebox_Click);
+  placeWidgets();
+  resize(kDesign);
+}
+
+void Shotdata::placeWidgets() {
+  resize_->place(Awardpic, QRect(QPoint(0, 0), kDesign));
+  resize_->place(Specieslab, {40, 28, 560, 34}, 20);
+  resize_->place(Trophypic, {40, 76, 280, 210});
+  resize_->place(Logopic, {470, 300, 130, 70});
+  QLabel* const lines[] = {Takenlab, Sizelab, Weightlab, Weaponlab, Arealab, Rangelab, Timelab, Skilllab};
+  for (int i = 0; i < 8; ++i) resize_->place(lines[i], {340, 80 + 26 * i, 270, 24}, 11);
+  resize_->place(Awardlab, {40, 300, 420, 70}, 12);
+  resize_->place(printbut, {180, 410, 120, 34}, 11);
+  resize_->place(Closebox, {340, 410, 120, 34}, 11);
+}
+
+void Shotdata::Form_Load() {
+  placeFullScreenScene(*this);
+  Awardpic->setPicturePath(Game.MediaRoot + QStringLiteral("art\\") + Game.AreaLetter +
+                           QStringLiteral("award.bmp"));
+  Logopic->setPicturePath(Game.MediaRoot + QStringLiteral("art\\mdnlogo.bmp"));
+  readAwardBases();
+  unsetCursor();
+  Examineshot();
+}
+
+void Shotdata::readAwardBases() {
+  // A short or missing table leaves the rest of the bases as they were.
+  try {
+    rt::ListInput table(platform::files().resolve(Game.MediaRoot + QStringLiteral("data\\tagcost.csv")));
+    for (int16_t& base : awardBases_) base = table.inputInt16();
+  } catch (const std::exception&) {
+  }
+}
+
+void Shotdata::Examineshot() {
+  const double weightBefore = Game.TrophyWeight;
+  const TrophyMeasure after = withTrophyBonus(Game.CurAnimal, {Game.TrophySize, Game.TrophyWeight}, rnd);
+  Game.TrophySize = after.size;
+  Game.TrophyWeight = after.weight;
+  Takenlab->setText(QStringLiteral("Taken by: ") + Game.HunterName);
+  Specieslab->setText(SpeciesName(Game.CurAnimal));
+  Sizelab->setText(QStringLiteral("Size: ") + trophySizeText(Game.TrophySize));
+  Weightlab->setText(QStringLiteral("Weight: ") + trophyWeightText(Game.TrophyWeight));
+  Weaponlab->setText(QStringLiteral("Weapon: ") + WeaponName(Game.CurWeapon));
+  Arealab->setText(QStringLiteral("In the ") + WorldName(Game.WorldNum) + QStringLiteral(" at the ") +
+                   Game.CurLocation);
+  Rangelab->setText(QStringLiteral("Range: ") + trophyRangeText(Game.ShotYards));
+  Timelab->setText(QStringLiteral("Time: ") + trophyTimeText(Game.GameDate));
+  Skilllab->setText(QStringLiteral("Skill: ") + SkillName());
+  const QString photo = Game.MediaRoot + QStringLiteral("trophy\\") + Game.VideoName + QStringLiteral(".jpg");
+  if (platform::files().exists(photo)) Trophypic->setPicturePath(photo);
+  payAward(weightBefore);
+}
+
+void Shotdata::payAward(double weightBefore) {
+  award_ = 0;
+  Awardlab->clear();
+  if (!awardDue(weightBefore, Game.TrophyWeight, Game.DamagedTrophy != 0)) return;
+  const int species = Game.CurAnimal >= 0 && Game.CurAnimal < 17 ? Game.CurAnimal : 0;
+  award_ = awardAmount(awardBases_[species], rnd);
+  Game.Money = rt::add16(Game.Money, rt::to16(award_));
+  Awardlab->setText(awardMessage(Game.SponsorOn, award_));
+}
+
+void Shotdata::printbut_Click() {
+  const platform::PrintResult result = platform::printer().PrintImage(grab().toImage(), kTitle);
+  if (!result.printed)
+    platform::MsgBox(QStringLiteral("The Trophy page can't be printed."));
+  else if (!result.pdfPath.isEmpty())
+    platform::MsgBox(
+        QStringLiteral("There is no printer; the trophy page was saved as ") + result.pdfPath + u'.',
+        platform::Buttons::Ok, platform::Icon::Information, kTitle);
+}
+
+void Shotdata::Closebox_Click() {
+  close();
+}
