@@ -102,8 +102,8 @@ void surround::btnMdnweb_Click() {
 
 void surround::btnQuillonweb_Click() {
   Timer2->stop();
-  const bool localPages = platform::files().exists(Game.MediaRoot + QStringLiteral("qlpage"));
-  OpenWebPage(this, localPages ? Game.MediaRoot + QStringLiteral("qlpage\\index.htm") : kPublisherSite);
+  const QString localPage = Game.MediaRoot + QStringLiteral("qlpage\\index.htm");
+  OpenWebPage(this, platform::files().exists(localPage) ? localPage : kPublisherSite);
 }
 
 void surround::btnRedfern_Click() {

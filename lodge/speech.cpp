@@ -80,7 +80,8 @@ std::optional<Line> speakOne(const QString& key) {
 void showLine(const Line& line) {
   auto& box = ScreenInstance<Talkform>::get();
   box.showLine(line.picture, line.text);
-  if (!box.isVisible()) box.Form_Load();
+  // The line is already sounding; playing it again on loading the box would clip it.
+  if (!box.isVisible()) box.dress();
   box.show();
   box.raise();
 }

@@ -69,11 +69,15 @@ void Talkform::placeOverHuntingScreen() {
 }
 
 void Talkform::Form_Load() {
+  dress();
+  Soundplay();
+}
+
+void Talkform::dress() {
   Background->setPicturePath(Game.MediaRoot + QStringLiteral("art\\") + Game.AreaLetter +
                              QStringLiteral("peopbox.bmp"));
   placeOverHuntingScreen();
   unsetCursor();
-  Soundplay();
 }
 
 void Talkform::Soundplay() {

@@ -18,6 +18,8 @@ class Talkform : public QDialog {
   Talkform();
 
   void Form_Load();
+  // Form_Load without playing: for a line that is already sounding.
+  void dress();
   void Soundplay();
   void Nextconv_Click();
   void Prevconv_Click();

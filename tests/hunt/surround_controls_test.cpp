@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// The hunting screen's head box: item buttons, the main menu's return, the partner pages,
+// starting again and closing.
+#include "surround_fixture.h"
+
+#include "platform/fakes/recording_shell.h"
+#include "platform/shell_open.h"
+
+#include <QPushButton>
+
+namespace {
+
+TEST_F(SurroundTest, ItemButtonsFollowWhatTheHunterCarries) {
+  Game.EquipSlots[8] = 25;
+  screen().SetItembuttons();
+  EXPECT_TRUE(screen().Callbutton->isEnabled());
+  EXPECT_FALSE(screen().Scope->isEnabled());
+  EXPECT_FALSE(screen().Windbut->isEnabled());
+  Game.EquipSlots[7] = 2;
+  Game.EquipSlots[11] = 40;
+  Game.EquipSlots[8] = 0;
+  screen().SetItembuttons();
+  EXPECT_FALSE(screen().Callbutton->isEnabled());
+  EXPECT_TRUE(screen().Scope->isEnabled());
+  EXPECT_TRUE(screen().Windbut->isEnabled());
+}
+
+TEST_F(SurroundTest, AGameLoadedFromTheMenuReopensItsPlaceAndOneSavedAtTheRangeTheLodge) {
+  placeAt(3, QStringLiteral("3Dstnd1"));
+  const auto loadFromMenu = [&](int16_t place, int16_t stand) {
+    screens->on(QStringLiteral("Filer"), [=](QWidget&) {
+      EXPECT_EQ(Game.ScreenState, QStringLiteral("MAINMENU"));
+      Game.ScreenState = QStringLiteral("LOADED");
+      Game.PlaceMode = place;
+      Game.StandNum = stand;
+      return 0;
+    });
+    screen().Mainmenu_Click();
+    return view().loaded();
+  };
+  EXPECT_EQ(loadFromMenu(5, 0), QStringLiteral("D:\\surnd\\13lodge.svh"));
+  EXPECT_EQ(Game.PlaceMode, 0);
+  EXPECT_TRUE(screen().frmLodge->isVisibleTo(&screen()));
+  EXPECT_EQ(loadFromMenu(3, 2), QStringLiteral("D:\\surnd\\13Dstnd2.svh"));
+  EXPECT_EQ(loadFromMenu(1, 0), QStringLiteral("D:\\surnd\\1Dcamp.svh"));
+}
+
+TEST_F(SurroundTest, ARestartAskedForInTheMenuGoesBackToTheStartOnce) {
+  placeAt(0, QStringLiteral("3lodge"));
+  int restarts = 0;
+  surround::setRestartHandler([&] { ++restarts; });
+  screens->on(QStringLiteral("Filer"), [](QWidget&) {
+    Game.ScreenState = QStringLiteral("RESTART");
+    return 0;
+  });
+  screen().Mainmenu_Click();
+  screen().CHKRestartGame();
+  surround::setRestartHandler(nullptr);
+  EXPECT_EQ(restarts, 1);
+  EXPECT_TRUE(Game.ScreenState.isEmpty());
+}
+
+TEST_F(SurroundTest, ClosingTheWindowAsksFirstAndStaysOpenOnNo) {
+  placeAt(0, QStringLiteral("3lodge"));
+  screen().show();
+  dialogs->answer(platform::Answer::No);
+  EXPECT_FALSE(screen().close());
+  EXPECT_TRUE(screen().isVisible());
+  EXPECT_EQ(dialogs->last().text, QStringLiteral("Do you want to exit the program."));
+  EXPECT_EQ(dialogs->last().title, QStringLiteral("Quit Program"));
+  EXPECT_EQ(dialogs->last().buttons, platform::Buttons::YesNo);
+  dialogs->answer(platform::Answer::Yes);
+  EXPECT_TRUE(screen().close());
+}
+
+TEST_F(SurroundTest, QuittingFromTheMenuClosesWithoutAskingAgain) {
+  placeAt(0, QStringLiteral("3lodge"));
+  screen().show();
+  screens->on(QStringLiteral("Filer"), [](QWidget&) {
+    Game.ScreenState = QStringLiteral("QUIT GAME");
+    return 0;
+  });
+  screen().Mainmenu_Click();
+  EXPECT_FALSE(screen().isVisible());
+  EXPECT_TRUE(dialogs->shown().empty());
+}
+
+TEST_F(SurroundTest, ThePartnerPagesOpenFromTheWorld) {
+  platform::ScopedService<platform::ShellOpener, platform::RecordingShell> shell;
+  screen().btnRedfern_Click();
+  screen().btnMdnweb_Click();
+  screen().btnQuillonweb_Click();
+  media.write("qlpage/index.htm", "<html></html>");
+  screen().btnQuillonweb_Click();
+  ASSERT_EQ(shell->opened().size(), 4);
+  EXPECT_EQ(shell->opened()[0], QStringLiteral("D:\\redfern\\index.htm"));
+  EXPECT_EQ(shell->opened()[1], QStringLiteral("D:\\mardens\\index.htm"));
+  EXPECT_TRUE(shell->opened()[2].startsWith(QStringLiteral("https://")));
+  EXPECT_EQ(shell->opened()[3], QStringLiteral("D:\\qlpage\\index.htm"));
+}
+
+TEST_F(SurroundTest, ReadsTheTagLimitsOfTheWorld) {
+  screen();
+  EXPECT_EQ(Game.TagLimit[1], 2);
+  EXPECT_EQ(Game.TagLimit[16], 1);
+  EXPECT_EQ(Game.TagLimit[0], 0);
+}
+
+}  // namespace
