@@ -32,7 +32,9 @@ const PanoramaImage& panorama() {
   return image;
 }
 
-void renderView(benchmark::State& state, bool turning, double zoomOverBase) {
+void renderView(benchmark::State& state, bool turning, double zoomOverBase,
+                Sampling sampling = Sampling::Bilinear,
+                PanoramaRenderer::Path path = PanoramaRenderer::Path::Fastest) {
   const PanoramaImage& image = panorama();
   const auto geometry = PanoramaGeometry::cylindrical(
       kPanoramaWidth, kPanoramaHeight, 2 * std::atan(M_PI * kPanoramaHeight / kPanoramaWidth) * 180 / M_PI);
@@ -40,10 +42,10 @@ void renderView(benchmark::State& state, bool turning, double zoomOverBase) {
   const double zoom = baseZoom(geometry, size.height()) * zoomOverBase;
   PanoramaView view{size, 0, zoom, kPanoramaHeight / 2.0};
   QImage target(1920, 1080, QImage::Format_RGB32);
-  PanoramaRenderer renderer;
+  PanoramaRenderer renderer(path);
   for (auto _ : state) {
     if (turning) view.heading = normalizeHeading(int64_t{view.heading} + 4321);
-    renderer.render(image, geometry, view, target);
+    renderer.render(image, geometry, view, target, sampling);
     benchmark::DoNotOptimize(target.constBits());
   }
   state.counters["views/s"] =
@@ -58,6 +60,17 @@ void BM_PanoramaTurning(benchmark::State& state) {
 }
 void BM_PanoramaTurningZoomed(benchmark::State& state) {
   renderView(state, true, 2.5);
+}
+// The loops every processor runs, for comparison with the AVX2 ones above.
+void BM_PanoramaTurningPortable(benchmark::State& state) {
+  renderView(state, true, 1.0, Sampling::Bilinear, PanoramaRenderer::Path::Portable);
+}
+// While the view is dragged.
+void BM_PanoramaTurningNearest(benchmark::State& state) {
+  renderView(state, true, 1.0, Sampling::Nearest);
+}
+void BM_PanoramaTurningNearestPortable(benchmark::State& state) {
+  renderView(state, true, 1.0, Sampling::Nearest, PanoramaRenderer::Path::Portable);
 }
 
 // Opening a panorama whose image is not cached: decode the JPEG and lay it out for drawing.
@@ -77,6 +90,9 @@ void BM_PanoramaDecode(benchmark::State& state) {
 BENCHMARK(BM_PanoramaStill)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_PanoramaTurning)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_PanoramaTurningZoomed)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_PanoramaTurningPortable)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_PanoramaTurningNearest)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_PanoramaTurningNearestPortable)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_PanoramaDecode)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -26,13 +26,22 @@ uint32_t* allocatePixels(size_t count) {
   return static_cast<uint32_t*>(memory);
 }
 
+// Rows a power of two bytes apart share cache sets, so the few rows the renderer reads at
+// once would evict one another; an odd number of lines apart they spread over all sets.
+std::ptrdiff_t paddedStride(int width) {
+  constexpr std::ptrdiff_t kLine = 64 / sizeof(uint32_t);
+  const std::ptrdiff_t lines = (width + 1 + kLine - 1) / kLine;
+  return (lines | 1) * kLine;
+}
+
 }  // namespace
 
 void PanoramaImage::Release::operator()(uint32_t* p) const {
   std::free(p);
 }
 
-PanoramaImage::PanoramaImage(const QImage& image) : width_(image.width()), height_(image.height()) {
+PanoramaImage::PanoramaImage(const QImage& image)
+    : width_(image.width()), height_(image.height()), stride_(paddedStride(width_)) {
   const QImage rgb = image.convertToFormat(QImage::Format_RGB32);
   pixels_.reset(allocatePixels(static_cast<size_t>(height_ + 2) * stride()));
   for (int y = -1; y <= height_; ++y) {

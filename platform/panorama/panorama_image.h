@@ -17,8 +17,9 @@ class PanoramaImage {
 
   int width() const { return width_; }
   int height() const { return height_; }
-  // Pixels per stored row: the image width plus the wrap-around column.
-  std::ptrdiff_t stride() const { return width_ + 1; }
+  // Pixels per stored row: the image width plus the wrap-around column, rounded up to whole
+  // cache lines and to an odd number of them.
+  std::ptrdiff_t stride() const { return stride_; }
   // Row -1 of the image (the copy of row 0); rows run to `height` (the copy of the last row).
   const uint32_t* paddedRows() const { return pixels_.get(); }
   // 0xffRRGGBB of image pixel (x, y), for callers outside the hot path.
@@ -27,6 +28,7 @@ class PanoramaImage {
  private:
   int width_ = 0;
   int height_ = 0;
+  std::ptrdiff_t stride_ = 0;
   struct Release {
     void operator()(uint32_t* p) const;
   };

@@ -166,8 +166,11 @@ void PanoramaWidget::paintEvent(QPaintEvent*) {
     frame_.setDevicePixelRatio(ratio);
     frameStale_ = true;
   }
-  if (frameStale_) renderer_.render(*image_, geometry_, view(), frame_);
+  const Sampling sampling = wantedSampling();
+  if (frameStale_ || sampling != frameSampling_)
+    renderer_.render(*image_, geometry_, view(), frame_, sampling);
   frameStale_ = false;
+  frameSampling_ = sampling;
   painter.drawImage(QPointF(0, 0), frame_);
   if (outlines_) drawOutlines(painter);
 }

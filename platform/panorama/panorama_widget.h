@@ -48,6 +48,8 @@ class PanoramaWidget final : public QWidget, public SVControl {
   // The view's image row at the middle line; looking up or down moves it.
   double centreRow() const { return view().centreRow; }
   void setCentreRow(double row);
+  // How the frame on screen was sampled: nearest while a drag turns the view, bilinear at rest.
+  Sampling frameSampling() const { return frameSampling_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -72,6 +74,8 @@ class PanoramaWidget final : public QWidget, public SVControl {
   void finishPress(QPointF position);
   void stepMotion();
   void updateEdgePanning();
+  // Nearest while the view follows or glides on from a drag: those frames are replaced at once.
+  Sampling wantedSampling() const;
 
   std::optional<PanoramaManifest> manifest_;
   std::shared_ptr<const PanoramaImage> image_;
@@ -79,6 +83,7 @@ class PanoramaWidget final : public QWidget, public SVControl {
   PanoramaRenderer renderer_;
   QImage frame_;
   bool frameStale_ = true;
+  Sampling frameSampling_ = Sampling::Bilinear;
   bool outlines_ = false;
   int ready_ = 0;
   QString error_;

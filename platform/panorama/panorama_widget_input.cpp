@@ -67,6 +67,7 @@ void PanoramaWidget::finishPress(QPointF position) {
   refreshCursor();
   if (done.dragging) {
     if (dragClock_.elapsed() - done.lastMs < kGlideFreshMs) glide_.start(done.velocity);
+    if (!glide_.moving()) update();  // at rest: the bilinear frame
     if (glide_.moving() && !motionTimer_.isActive()) {
       motionClock_.start();
       motionTimer_.start();
@@ -94,9 +95,15 @@ void PanoramaWidget::updateEdgePanning() {
 void PanoramaWidget::stepMotion() {
   static constexpr double kLongestStep = 0.1;  // seconds; a stalled event loop must not jump
   const double seconds = std::min(kLongestStep, motionClock_.restart() / 1000.0);
+  const bool gliding = glide_.moving();
   const double turn = edgeSpeed_ * seconds + glide_.advance(seconds);
   if (edgeSpeed_ == 0 && !glide_.moving()) motionTimer_.stop();
   if (turn != 0) turnBy(turn);
+  if (gliding && !glide_.moving()) update();  // the glide died away: a bilinear frame
+}
+
+Sampling PanoramaWidget::wantedSampling() const {
+  return (press_ && press_->dragging) || glide_.moving() ? Sampling::Nearest : Sampling::Bilinear;
 }
 
 void PanoramaWidget::wheelEvent(QWheelEvent* event) {

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QTest>
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
@@ -186,6 +187,56 @@ TEST_F(PanoramaWidgetTest, ADragTurnsTheViewAndSelectsNothing) {
   EXPECT_LT(widget.Heading(), 648000);
   EXPECT_NEAR(at(720, 150).x(), start.x() + 60, 0.5);  // the grabbed point followed the pointer
   EXPECT_TRUE(events.filter("location").size() >= 1);
+}
+
+// The frame on screen, and the same view drawn by a renderer of our own.
+QImage drawnBy(PanoramaWidget& widget, Sampling sampling) {
+  QImage frame(widget.size(), QImage::Format_RGB32);
+  const PanoramaImage image(panorama_test::smoothImage(kWidth, kHeight));
+  PanoramaRenderer().render(image, PanoramaGeometry::cylindrical(kWidth, kHeight, 60),
+                            {QSizeF(widget.size()), widget.Heading(), widget.Zoom(), widget.centreRow()},
+                            frame, sampling);
+  return frame;
+}
+
+TEST_F(PanoramaWidgetTest, ADragDrawsNearestAndAStillReleaseRedrawsBilinear) {
+  ASSERT_TRUE(loadLodge());
+  widget.SetZoom(widget.BaseZoom() * 3);  // magnified, so the two samplings differ
+  const QPointF start(200, 150);
+  mouse(QEvent::MouseButtonPress, start, Qt::LeftButton, Qt::LeftButton);
+  moveTo(start + QPointF(37, 0), Qt::LeftButton);
+  QImage shot = widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+  EXPECT_EQ(widget.frameSampling(), Sampling::Nearest);
+  EXPECT_EQ(shot, drawnBy(widget, Sampling::Nearest));
+  EXPECT_NE(shot, drawnBy(widget, Sampling::Bilinear));
+
+  QTest::qWait(120);  // the pointer rests before letting go: no glide
+  mouse(QEvent::MouseButtonRelease, start + QPointF(37, 0), Qt::LeftButton);
+  shot = widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+  EXPECT_EQ(widget.frameSampling(), Sampling::Bilinear);
+  EXPECT_EQ(shot, drawnBy(widget, Sampling::Bilinear));
+}
+
+TEST_F(PanoramaWidgetTest, AGlideStaysNearestUntilItDiesAway) {
+  ASSERT_TRUE(loadLodge());
+  widget.show();
+  const QPointF start(200, 150);
+  mouse(QEvent::MouseButtonPress, start, Qt::LeftButton, Qt::LeftButton);
+  QTest::qWait(20);
+  moveTo(start + QPointF(80, 0), Qt::LeftButton);
+  mouse(QEvent::MouseButtonRelease, start + QPointF(80, 0), Qt::LeftButton);  // let go while moving
+  widget.grab();
+  EXPECT_EQ(widget.frameSampling(), Sampling::Nearest);
+  const int32_t released = widget.Heading();
+  ASSERT_TRUE(QTest::qWaitFor(
+      [&] {
+        widget.grab();
+        return widget.frameSampling() == Sampling::Bilinear;
+      },
+      5000));
+  EXPECT_NE(widget.Heading(), released);  // it glided on before coming to rest
+  EXPECT_EQ(widget.grab().toImage().convertToFormat(QImage::Format_RGB32),
+            drawnBy(widget, Sampling::Bilinear));
 }
 
 TEST_F(PanoramaWidgetTest, ASelectHandlerMayLoadTheNextPanorama) {
