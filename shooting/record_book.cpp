@@ -18,8 +18,9 @@ namespace {
 
 constexpr QSize kDesign{640, 480};
 constexpr QRect kGridRect{30, 150, 580, 270};
-// Shares of the grid's width per column: the texts of size, location and time run longest.
-constexpr int kColumnShares[kTrophyColumns] = {11, 9, 14, 10, 9, 13, 8, 15, 11};
+// Shares of the grid's width per column, after the longest texts each holds: the size with
+// its unit, the weapon's name and the day with the time run longest.
+constexpr int kColumnShares[kTrophyColumns] = {14, 10, 25, 11, 10, 19, 9, 17, 11};
 // Rows kept when the grid is cleared: the headings and one row under them.
 constexpr int kKeptRows = 2;
 
@@ -65,7 +66,7 @@ void RecordBook::placeWidgets() {
   resize_->place(Background, QRect(QPoint(0, 0), kDesign));
   resize_->place(Trophypic, {30, 20, 160, 120});
   resize_->place(Specieslab, {210, 60, 400, 40}, 20);
-  resize_->place(VSFMyGrid, kGridRect, 8);
+  resize_->place(VSFMyGrid, kGridRect, 7);
   resize_->place(catback, {150, 432, 100, 30}, 10);
   resize_->place(Catnext, {270, 432, 100, 30}, 10);
   resize_->place(Closebox, {390, 432, 100, 30}, 10);
@@ -116,9 +117,6 @@ void RecordBook::Catnext_Click() {
 
 void RecordBook::writeHeadings() {
   const QStringList headings = trophyHeadings();
-  int shares = 0;
-  for (int share : kColumnShares) shares += share;
-  const int width = VSFMyGrid->viewport()->width();
   for (int column = 0; column < kTrophyColumns; ++column) {
     auto* item = new QTableWidgetItem(headings[column]);
     QFont font = item->font();
@@ -126,8 +124,21 @@ void RecordBook::writeHeadings() {
     item->setFont(font);
     item->setBackground(QColor(0xd8c8a0));
     VSFMyGrid->setItem(0, column, item);
-    VSFMyGrid->setColumnWidth(column, width * kColumnShares[column] / shares);
   }
+  fitColumns(sharedScreenPixels().width() * kGridRect.width() / kDesign.width());
+}
+
+void RecordBook::fitColumns(int gridWidth) {
+  int shares = 0;
+  for (int share : kColumnShares) shares += share;
+  const int usable = gridWidth - 2 * VSFMyGrid->frameWidth();
+  for (int column = 0; column < kTrophyColumns; ++column)
+    VSFMyGrid->setColumnWidth(column, usable * kColumnShares[column] / shares);
+}
+
+void RecordBook::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  fitColumns(VSFMyGrid->width());
 }
 
 void RecordBook::addRow(const QString& line) {

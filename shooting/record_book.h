@@ -44,7 +44,11 @@ class RecordBook : public QDialog {
 
   int16_t page() const { return page_; }
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
+  void fitColumns(int gridWidth);
   void placeWidgets();
   void appendTrophy();
   void showPage();

@@ -55,6 +55,8 @@ Shotdata::Shotdata()
   Specieslab->setAlignment(Qt::AlignCenter);
   Awardlab->setAlignment(Qt::AlignCenter);
   Awardlab->setWordWrap(true);
+  Arealab->setWordWrap(true);
+  Arealab->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   QFont bold = Specieslab->font();
   bold.setBold(true);
   Specieslab->setFont(bold);
@@ -67,14 +69,16 @@ Shotdata::Shotdata()
 
 void Shotdata::placeWidgets() {
   resize_->place(Awardpic, QRect(QPoint(0, 0), kDesign));
-  resize_->place(Specieslab, {40, 28, 560, 34}, 20);
-  resize_->place(Trophypic, {40, 76, 280, 210});
-  resize_->place(Logopic, {470, 300, 130, 70});
-  QLabel* const lines[] = {Takenlab, Sizelab, Weightlab, Weaponlab, Arealab, Rangelab, Timelab, Skilllab};
-  for (int i = 0; i < 8; ++i) resize_->place(lines[i], {340, 80 + 26 * i, 270, 24}, 11);
-  resize_->place(Awardlab, {40, 300, 420, 70}, 12);
-  resize_->place(printbut, {180, 410, 120, 34}, 11);
-  resize_->place(Closebox, {340, 410, 120, 34}, 11);
+  resize_->place(Specieslab, {40, 24, 560, 36}, 20);
+  resize_->place(Trophypic, {40, 72, 280, 210});
+  QLabel* const column[] = {Takenlab, Sizelab, Weightlab, Weaponlab, Rangelab, Timelab, Skilllab};
+  for (int i = 0; i < 7; ++i) resize_->place(column[i], {340, 82 + 28 * i, 270, 26}, 11);
+  // A place's description is a whole phrase: its line runs the page's width and may wrap.
+  resize_->place(Arealab, {40, 290, 560, 46}, 11);
+  resize_->place(Awardlab, {40, 344, 420, 60}, 12);
+  resize_->place(Logopic, {470, 338, 130, 70});
+  resize_->place(printbut, {180, 420, 120, 34}, 11);
+  resize_->place(Closebox, {340, 420, 120, 34}, 11);
 }
 
 void Shotdata::Form_Load() {

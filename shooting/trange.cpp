@@ -67,16 +67,22 @@ void Trange::resizeEvent(QResizeEvent* event) {
 
 void Trange::placeControls() {
   ActiveRDX1->setGeometry(0, 0, width(), height());
-  // The controls sit in the bottom right corner, clear of every target.
-  const int unit = std::max(24, height() / 24);
-  const QPoint pad(width() - 4 * unit - 16, height() - 6 * unit - 16);
-  Sightlab->setGeometry(pad.x() - unit / 2, pad.y(), 4 * unit, unit);
-  Dup->setGeometry(pad.x() + unit, pad.y() + unit + 4, unit, unit);
-  Dleft->setGeometry(pad.x(), pad.y() + 2 * unit + 4, unit, unit);
-  Dright->setGeometry(pad.x() + 2 * unit, pad.y() + 2 * unit + 4, unit, unit);
-  ddown->setGeometry(pad.x() + unit, pad.y() + 3 * unit + 4, unit, unit);
-  Reloadbut->setGeometry(pad.x() - unit / 2, pad.y() + 4 * unit + 12, 4 * unit, unit);
-  ebutton->setGeometry(pad.x() - unit / 2, pad.y() + 5 * unit + 16, 4 * unit, unit);
+  // Every target of both sets starts right of x = 89 on the 640-pixel picture: the controls
+  // stand in that strip, at the bottom.
+  const int strip = static_cast<int>(89.0 * width() / kRangeDesignWidth);
+  const int unit = std::max(20, std::min((strip - 16) / 4, height() / 24));
+  const int left = (strip - 4 * unit) / 2;
+  const int cross = left + unit / 2;
+  const int exitTop = height() - 12 - unit;
+  const int reloadTop = exitTop - unit - 8;
+  const int downTop = reloadTop - 12 - unit;
+  ebutton->setGeometry(left, exitTop, 4 * unit, unit);
+  Reloadbut->setGeometry(left, reloadTop, 4 * unit, unit);
+  ddown->setGeometry(cross + unit, downTop, unit, unit);
+  Dleft->setGeometry(cross, downTop - unit, unit, unit);
+  Dright->setGeometry(cross + 2 * unit, downTop - unit, unit, unit);
+  Dup->setGeometry(cross + unit, downTop - 2 * unit, unit, unit);
+  Sightlab->setGeometry(std::max(0, left - unit / 2), downTop - 3 * unit - 6, 5 * unit, unit);
 }
 
 void Trange::Form_Load() {

@@ -61,7 +61,6 @@ void Videoshot::layOut() {
 }
 
 void Videoshot::Form_Load() {
-  layOut();
   Vrdxinit();
 }
 
