@@ -53,8 +53,6 @@ Catalog::Catalog()
   Itemcost->setAlignment(Qt::AlignCenter);
   Moneylab->setAlignment(Qt::AlignCenter);
   Itempic->setFrameShape(QFrame::Box);
-  Invlist->setStyleSheet(
-      QStringLiteral("QListWidget { background: rgba(250, 243, 226, 235); color: #2b1d0e; }"));
   connect(TabCat, &QTabBar::currentChanged, this, &Catalog::TabCat_Click);
   connect(TabInv, &QTabBar::currentChanged, this, &Catalog::TabInv_Click);
   placeWidgets();
@@ -133,7 +131,7 @@ void Catalog::FormatCat() {
   description_ = item.description;
   Itemname->setText(name_);
   Itemdesc->setText(description_);
-  Itemcost->setText(QStringLiteral("$") + data1_.Field(QStringLiteral("Cost")).trimmed());
+  Itemcost->setText(QStringLiteral("$") + QString::number(cost_));
   Itempic->setPicturePath(Game.MediaRoot + QStringLiteral("invpics\\image") + QString::number(item_) +
                           QStringLiteral(".bmp"));
 }

@@ -13,10 +13,19 @@ ItemTables& tables() {
   return t;
 }
 
+// A field the file lacks reads as empty, so an item shows what its record does have.
+QString textField(const platform::RecordData& data, const char* field) {
+  try {
+    return data.Field(QString::fromLatin1(field)).trimmed();
+  } catch (const platform::RecordError&) {
+    return QString();
+  }
+}
+
 // A number field that will not read counts as 0, as an empty one does.
 int16_t numberField(const platform::RecordData& data, const char* field) {
   try {
-    return rt::to16(rt::parseNumber(data.Field(QString::fromLatin1(field))));
+    return rt::to16(rt::parseNumber(textField(data, field)));
   } catch (const std::exception&) {
     return 0;
   }
@@ -31,8 +40,8 @@ QString catalogPath() {
 CatalogItem itemFromRecord(const platform::RecordData& data) {
   CatalogItem item;
   item.id = numberField(data, "ID");
-  item.name = data.Field(QStringLiteral("Item")).trimmed();
-  item.description = data.Field(QStringLiteral("Item Description")).trimmed();
+  item.name = textField(data, "Item");
+  item.description = textField(data, "Item Description");
   item.cost = numberField(data, "Cost");
   item.catNumber = numberField(data, "CatNumber");
   item.subCatNumber = numberField(data, "Sub-CatNumber");
@@ -56,7 +65,7 @@ std::optional<CatalogItem> Lookupitem(int item) {
 void LoadItemTables() {
   ItemTables fresh;
   fresh.tabs.fill(-1);
-  fresh.loaded = true;
+  fresh.source = catalogPath();
   try {
     platform::RecordData data;
     data.SetDatabaseName(catalogPath());
@@ -74,7 +83,7 @@ void LoadItemTables() {
 }
 
 const ItemTables& itemTables() {
-  if (!tables().loaded) LoadItemTables();
+  if (tables().source != catalogPath()) LoadItemTables();
   return tables();
 }
 

@@ -37,11 +37,11 @@ std::optional<CatalogItem> Lookupitem(int item);
 struct ItemTables {
   std::array<QString, kOwnedItemCount> names;
   std::array<int16_t, kOwnedItemCount> tabs{};
-  bool loaded = false;
+  QString source;  // the catalogue they were read from; empty until read
 };
-// Reads the tables from the catalogue; the game does it once, when a world group is chosen.
+// Reads the tables from the catalogue of the world group in play.
 void LoadItemTables();
-// The tables, read on first use when nobody has read them yet.
+// The tables, read on first use and again when the game has moved to the other world group.
 const ItemTables& itemTables();
 
 }  // namespace lodge

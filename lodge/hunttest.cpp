@@ -55,7 +55,7 @@ Hunttest::Hunttest()
 void Hunttest::placeWidgets() {
   resize_->place(Background, QRect(QPoint(0, 0), lodge::kLodgeDesign));
   for (int i = 0; i < lodge::kTestQuestions; ++i) {
-    resize_->place(Question[i], {40, 24 + 49 * i, 780, 44}, 10);
+    resize_->place(Question[i], {40, 24 + 49 * i, 780, 44}, 11);
     resize_->place(Check1[i], {836, 32 + 49 * i, 138, 28}, 11);
   }
   resize_->place(Scoretest, {40, 540, 170, 44}, 12);

@@ -42,8 +42,6 @@ Inventory::Inventory()
   tabinvent->setExpanding(true);
   tabinvent->setDrawBase(false);
   dwMList->setIconSize(kIconSize);
-  dwMList->setStyleSheet(
-      QStringLiteral("QListWidget { background: rgba(250, 243, 226, 235); color: #2b1d0e; }"));
   for (QLabel* l : {Weaponlab, Wallet1}) lodge::onPaper(*l);
   Wallet1->setAlignment(Qt::AlignCenter);
   Weaponlab->setWordWrap(true);

@@ -35,14 +35,22 @@ const char* const kLodgeStyle =
     " border-radius: 5px; padding: 2px 8px; font-weight: bold; }"
     "QPushButton:hover { background: #f5ead0; }"
     "QPushButton:pressed { background: #d4c39a; }"
-    "QPushButton:disabled { color: #8a7a60; border-color: #a89470; }";
+    "QPushButton:disabled { color: #8a7a60; border-color: #a89470; }"
+    "QTabBar::tab { color: #2b1d0e; background: #d9c9a0; border: 1px solid #7a5a24; padding: 4px 10px; }"
+    "QTabBar::tab:selected { background: #f5ead0; font-weight: bold; }"
+    "QListWidget { color: #2b1d0e; background: rgba(250, 243, 226, 235); border: 1px solid #7a5a24; }"
+    "QListWidget::item { padding: 3px; }"
+    "QListWidget::item:selected { color: #fbf6e9; background: #7a5a24; }";
 
 }  // namespace
 
 void prepareLodgeScreen(QWidget& screen, const QString& title) {
   screen.setWindowTitle(title);
   screen.setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
-  screen.setStyleSheet(QString::fromLatin1(kLodgeStyle));
+  // Dark wood behind the world's picture, so a screen whose picture is missing still reads.
+  const QString own =
+      QString::fromLatin1(screen.metaObject()->className()) + QStringLiteral(" { background: #4a3421; }");
+  screen.setStyleSheet(QString::fromLatin1(kLodgeStyle) + own);
   screen.resize(kLodgeDesign);
 }
 

@@ -12,12 +12,14 @@ namespace {
 
 // A guide is a few pages; anything this size is not one and is not read whole.
 constexpr qint64 kLargestDocument = 32 * 1024 * 1024;
+constexpr int kMargin = 12;
 
 }  // namespace
 
 RichTextBox::RichTextBox(QWidget* parent) : QTextEdit(parent) {
   setReadOnly(true);
   setUndoRedoEnabled(false);
+  document()->setDocumentMargin(kMargin);
 }
 
 bool RichTextBox::setFileName(const QString& gamePath) {

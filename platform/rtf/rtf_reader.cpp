@@ -61,6 +61,11 @@ struct GroupState {
   int unicodeFallback = 1;  // characters that follow \uN for readers without Unicode
 };
 
+int hexDigit(char c) {
+  if (c >= '0' && c <= '9') return c - '0';
+  return (c | 0x20) - 'a' + 10;
+}
+
 int clampTwips(long long value) {
   return static_cast<int>(std::clamp(value, -kMaxTwips, kMaxTwips));
 }
@@ -142,7 +147,7 @@ class Reader {
     int value = 0;
     int digits = 0;
     while (digits < 2 && pos_ < in_.size() && std::isxdigit(static_cast<unsigned char>(in_[pos_]))) {
-      value = value * 16 + QChar(in_[pos_]).digitValue(16);
+      value = value * 16 + hexDigit(in_[pos_]);
       ++pos_;
       ++digits;
     }
