@@ -18,8 +18,7 @@ namespace {
 
 constexpr QSize kDesign{640, 480};
 constexpr QRect kGridRect{30, 150, 580, 270};
-// Shares of the grid's width per column, after the longest texts each holds: the size with
-// its unit, the weapon's name and the day with the time run longest.
+// Shares of the room left in the grid's width, given most to the columns whose texts vary most.
 constexpr int kColumnShares[kTrophyColumns] = {14, 10, 25, 11, 10, 19, 9, 17, 11};
 // Rows kept when the grid is cleared: the headings and one row under them.
 constexpr int kKeptRows = 2;
@@ -125,15 +124,22 @@ void RecordBook::writeHeadings() {
     item->setBackground(QColor(0xd8c8a0));
     VSFMyGrid->setItem(0, column, item);
   }
-  fitColumns(sharedScreenPixels().width() * kGridRect.width() / kDesign.width());
 }
 
 void RecordBook::fitColumns(int gridWidth) {
-  int shares = 0;
-  for (int share : kColumnShares) shares += share;
-  const int usable = gridWidth - 2 * VSFMyGrid->frameWidth();
+  // Each column as wide as its longest text, the room left over shared out, so that a page
+  // of short rows still spans the book.
+  VSFMyGrid->resizeColumnsToContents();
+  int shares = 0, used = 0;
+  for (int column = 0; column < kTrophyColumns; ++column) {
+    shares += kColumnShares[column];
+    used += VSFMyGrid->columnWidth(column);
+  }
+  const int spare = gridWidth - 2 * VSFMyGrid->frameWidth() - used;
+  if (spare <= 0) return;
   for (int column = 0; column < kTrophyColumns; ++column)
-    VSFMyGrid->setColumnWidth(column, usable * kColumnShares[column] / shares);
+    VSFMyGrid->setColumnWidth(column,
+                              VSFMyGrid->columnWidth(column) + spare * kColumnShares[column] / shares);
 }
 
 void RecordBook::resizeEvent(QResizeEvent* event) {
@@ -161,6 +167,7 @@ void RecordBook::DoViewData(int16_t page) {
     addRow(trophyRowLine(*VsData10));
     VsData10->FindNext();
   }
+  fitColumns(sharedScreenPixels().width() * kGridRect.width() / kDesign.width());
   VSFMyGrid->setUpdatesEnabled(true);
 }
 

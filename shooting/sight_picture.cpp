@@ -18,7 +18,8 @@ constexpr int kRecoilFrameMs = 15;
 void showRecoilFrame(platform::ActiveRDX& mixer, platform::ImageSequence& sequence, int frame) {
   sequence.setCurrentImageNumber(frame);
   mixer.draw();
-  QThread::msleep(kRecoilFrameMs);
+  // Only a frame on screen needs time to be seen.
+  if (mixer.isVisible()) QThread::msleep(kRecoilFrameMs);
 }
 
 }  // namespace

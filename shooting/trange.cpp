@@ -86,14 +86,15 @@ void Trange::placeControls() {
 }
 
 void Trange::Form_Load() {
-  placeFullScreenScene(*this);
-  placeControls();
   RDXInit();
 }
 
 void Trange::RDXInit() {
-  // The hunting screen may build the scene again before showing it; start from nothing.
+  // The hunting screen builds the scene again before showing it; start from nothing, full
+  // screen.
   Form_Unload();
+  placeFullScreenScene(*this);
+  placeControls();
   shotCount_ = 0;
   empty_ = false;
   Reloadbut->hide();
