@@ -15,6 +15,7 @@
 #include "shell/hunt_media.h"
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -218,4 +219,12 @@ void Catalog::TabInv_Click() {
 void Catalog::Closebox_Click() {
   talk::Saynotext(QStringLiteral("thankyou"));
   close();
+}
+
+void Catalog::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    Closebox_Click();
+    return;
+  }
+  QDialog::keyPressEvent(event);
 }

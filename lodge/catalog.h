@@ -53,6 +53,10 @@ class Catalog : public QDialog {
   QPushButton* Catnext;
   QPushButton* Closebox;
 
+ protected:
+  // Escape leaves as the screen's own button does, with what that button does on the way out.
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   QPushButton* button(const QString& caption, QRect designRect, void (Catalog::*handler)());
   void placeWidgets();

@@ -13,6 +13,7 @@
 #include "shell/screen_layout.h"
 #include "shell/shared_procedures.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -157,4 +158,12 @@ void Weapons::Cancelbox_Click() {
   Game.CurWeapon = 0;
   data1_.Close();
   close();
+}
+
+void Weapons::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    Cancelbox_Click();
+    return;
+  }
+  QDialog::keyPressEvent(event);
 }

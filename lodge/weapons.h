@@ -50,6 +50,10 @@ class Weapons : public QDialog {
   QPushButton* selwep;
   QPushButton* Cancelbox;
 
+ protected:
+  // Escape leaves as the screen's own button does, with what that button does on the way out.
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   // The record on show; kept when a page's record is missing.
   struct WeaponRecord {

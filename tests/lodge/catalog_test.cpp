@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QTabBar>
+#include <QTest>
 
 namespace {
 
@@ -220,8 +221,10 @@ TEST_F(CatalogTest, TheOwnedViewListsOnlyTheChosenCategory) {
   EXPECT_TRUE(ownedRows().isEmpty());
 }
 
-TEST_F(CatalogTest, ClosingThanksTheHunter) {
-  shop.Closebox_Click();
+TEST_F(CatalogTest, ClosingThanksTheHunterEvenByEscape) {
+  shop.show();
+  QTest::keyClick(&shop, Qt::Key_Escape);
+  EXPECT_FALSE(shop.isVisible());
   EXPECT_EQ(spoken(), QStringList{QStringLiteral("thankyou")});
 }
 

@@ -7,6 +7,7 @@
 #include "shell/names.h"
 
 #include <QLabel>
+#include <QTest>
 
 namespace {
 
@@ -97,6 +98,14 @@ TEST_F(WeaponsTest, CancelLeavesTheHunterUnarmedEvenAfterAnEarlierChoice) {
   EXPECT_EQ(Game.CurWeapon, 0);
   EXPECT_EQ(WeaponName(Game.CurWeapon), QStringLiteral("No Weapon Selected"));
   EXPECT_EQ(Game.SightX, 159) << "no weapon leaves the sights alone";
+}
+
+TEST_F(WeaponsTest, EscapeLeavesAsCancelDoes) {
+  Game.CurWeapon = 2;
+  rack.show();
+  QTest::keyClick(&rack, Qt::Key_Escape);
+  EXPECT_EQ(Game.CurWeapon, 0);
+  EXPECT_FALSE(rack.isVisible());
 }
 
 TEST_F(WeaponsTest, AMissingRecordFileLeavesTheRackEmptyAndQuiet) {
