@@ -24,8 +24,8 @@ namespace {
 constexpr int kColumns = 4;
 const QString kLineBreak = QStringLiteral("\n\r");  // message lines join with LF CR
 
-// Reads `count` numbers into `values` from `first` on; a short or missing file leaves the
-// rest as they were.
+// Reads numbers into `values` from entry `first` on; a short or missing file leaves the rest
+// as they were.
 template <size_t N>
 void readNumbers(const QString& gamePath, std::array<int16_t, N>& values, size_t first) {
   try {

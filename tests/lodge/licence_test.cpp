@@ -71,6 +71,21 @@ TEST_F(LicenceTest, TheBoardShowsHeldAndFilledTagsAndTheWallet) {
   EXPECT_TRUE(spoken().isEmpty());
 }
 
+TEST_F(LicenceTest, ATagNotHeldShowsTheSpeciesOwnTagPaled) {
+  QImage red(20, 10, QImage::Format_RGB32);
+  red.fill(Qt::red);
+  const auto path = drive.root() / "licnpics" / "tag9.bmp";
+  std::filesystem::create_directories(path.parent_path());
+  ASSERT_TRUE(red.save(QString::fromStdString(path.string()), "BMP"));
+  open(Licence::kBuyMode);
+  const QColor shown = board.Tagpic[kElk]->pixmap().toImage().pixelColor(5, 5);
+  EXPECT_EQ(shown.red(), shown.green());
+  EXPECT_EQ(shown.green(), shown.blue());
+  Game.TagsOwned[kElk] = kTagHeld;
+  open(Licence::kBuyMode);
+  EXPECT_EQ(board.Tagpic[kElk]->pixmap().toImage().pixelColor(5, 5), QColor(Qt::red));
+}
+
 TEST_F(LicenceTest, QuarryModeAsksWhatToHuntAloud) {
   open(Licence::kQuarryMode);
   EXPECT_EQ(board.Promptlab->text(), QStringLiteral("What do you want to hunt?"));
