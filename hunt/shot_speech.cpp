@@ -26,3 +26,12 @@ QString killSpeechKey(int16_t quality) {
   if (quality >= 8) return QStringLiteral("almost");
   return QStringLiteral("goodhit");
 }
+
+QString offenceSpeechKey(int outcome) {
+  switch (outcome) {
+    case 6: return QStringLiteral("protect");
+    case 7: return QStringLiteral("notag");
+    case 8: return QStringLiteral("filltag");
+    default: return {};
+  }
+}

@@ -15,6 +15,9 @@ QString missSpeechKey(int direction);
 int16_t cappedQuality(int weapon, int16_t quality);
 // "toomuch" (10 and above: the trophy is damaged), "almost" (8, 9), "goodhit".
 QString killSpeechKey(int16_t quality);
+// What the guide says about an offence: shot outcomes 6 "protect", 7 "notag", 8 "filltag".
+QString offenceSpeechKey(int outcome);
+
 inline bool damagesTrophy(int16_t quality) {
   return quality >= 10;
 }

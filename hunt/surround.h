@@ -145,6 +145,7 @@ class surround : public QWidget {
   void loadPanorama(const QString& location, int32_t heading);
   void showPlaceText(const QString& extra = {});
   void openLicence(int16_t mode);
+  void moveToRecordedPlace(const QString& path);
 
   // Navigation.
   void walkTo(const QString& name);
@@ -184,6 +185,5 @@ class surround : public QWidget {
   bool painted_ = false;
   int32_t heading1_ = 0;
   int32_t heading2_ = 0;
-  int16_t opticsStand_ = -1;      // the stand the optics view holds
-  int16_t conversationDone_ = 0;  // cleared when a conversation starts
+  int16_t opticsStand_ = -1;  // the stand the optics view holds
 };

@@ -87,15 +87,10 @@ void surround::Aftershot() {
       Game.CurAnimal = 0;
       break;
     case 6:
-      Say(QStringLiteral("protect"));
-      Game.PendingMove = kOffence;
-      break;
     case 7:
-      Say(QStringLiteral("notag"));
-      Game.PendingMove = kOffence;
-      break;
     case 8:
-      Say(QStringLiteral("filltag"));
+      // A protected animal, one without a tag, one whose tag is filled: the warden is waiting.
+      Say(offenceSpeechKey(Game.ShotOutcome));
       Game.PendingMove = kOffence;
       break;
     case 9:

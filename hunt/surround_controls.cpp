@@ -54,20 +54,20 @@ void surround::Campbut_Click() {
 }
 
 void surround::SetToCamp() {
-  Scopeoff();
-  const auto camp = findLocation(QStringLiteral("^camp"));
-  if (!camp) return;
-  Game.PlaceMode = camp->loctype;
-  loadPanorama(camp->filejump, svcontrol1->Heading());
-  Setheadbox();
+  moveToRecordedPlace(QStringLiteral("^camp"));
 }
 
 void surround::Settolodge() {
+  moveToRecordedPlace(QStringLiteral("^3lodge"));
+}
+
+// Moves without a hotspot: the place and its kind come from the path the hotspot would take.
+void surround::moveToRecordedPlace(const QString& path) {
   Scopeoff();
-  const auto lodge = findLocation(QStringLiteral("^3lodge"));
-  if (!lodge) return;
-  Game.PlaceMode = lodge->loctype;
-  loadPanorama(lodge->filejump, svcontrol1->Heading());
+  const auto place = findLocation(path);
+  if (!place) return;
+  Game.PlaceMode = place->loctype;
+  loadPanorama(place->filejump, svcontrol1->Heading());
   Setheadbox();
 }
 

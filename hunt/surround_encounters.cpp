@@ -160,6 +160,8 @@ bool surround::chooseEncounterVideo() {
 
 // The shooting scene plays the encounter; its result comes back in the shared shot values.
 void surround::StartVideoshot() {
+  // The weapon is rated against the animal in view, at the distance of the last place looked at.
+  LoadWeaponRating();
   Game.ShotYards = Game.RangeYards;
   showModalScreen<Videoshot>();
 }

@@ -154,10 +154,7 @@ void surround::SVControl1_OnSelectHotspot(const QString& name) {
   const QString rest = name.mid(1);
   switch (kind.unicode()) {
     case u'^': walkTo(name); break;
-    case u'@':
-      conversationDone_ = 0;
-      InitSaylist(rest);
-      break;
+    case u'@': InitSaylist(rest); break;
     case u'!': showModalScreen<Catalog>(); break;
     case u'*': openLicence(1); break;
     case u'+':

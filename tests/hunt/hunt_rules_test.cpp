@@ -118,6 +118,9 @@ TEST(ShotSpeech, GentleWeaponsNeverSpoilATrophy) {
   EXPECT_EQ(killSpeechKey(8), QStringLiteral("almost"));
   EXPECT_EQ(killSpeechKey(7), QStringLiteral("goodhit"));
   EXPECT_FALSE(damagesTrophy(9));
+  EXPECT_EQ(offenceSpeechKey(6), QStringLiteral("protect"));
+  EXPECT_EQ(offenceSpeechKey(7), QStringLiteral("notag"));
+  EXPECT_EQ(offenceSpeechKey(8), QStringLiteral("filltag"));
 }
 
 TEST(TickDice, EventsByDraw) {
