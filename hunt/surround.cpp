@@ -3,6 +3,7 @@
 // closing.
 #include "hunt/surround.h"
 
+#include "hunt/compass_words.h"
 #include "hunt/optics_overlay.h"
 #include "platform/datetime.h"
 #include "platform/dialogs.h"
@@ -228,6 +229,7 @@ void surround::Form_Load() {
   Timer2->setInterval(kTickMs);
   Timer1->setInterval(kDeferredMoveMs);
   refreshClock();
+  Windbut->setText(windCaption(Game.WindDir, Game.WindStrength));
 }
 
 void surround::refreshClock() {
