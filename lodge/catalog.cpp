@@ -68,20 +68,21 @@ QPushButton* Catalog::button(const QString& caption, QRect designRect, void (Cat
 
 void Catalog::placeWidgets() {
   resize_->place(Background, QRect(QPoint(0, 0), lodge::kLodgeDesign));
-  resize_->place(TabCat, {40, 30, 620, 38}, 12);
-  resize_->place(Itempic, {40, 80, 280, 210});
-  resize_->place(Itemname, {340, 80, 470, 48}, 16);
-  resize_->place(Itemcost, {824, 80, 150, 48}, 16);
-  resize_->place(Itemdesc, {340, 138, 634, 100}, 11);
-  catback = button(QStringLiteral("<< Back"), {340, 250, 140, 40}, &Catalog::catback_Click);
-  Catnext = button(QStringLiteral("Next >>"), {494, 250, 140, 40}, &Catalog::Catnext_Click);
-  Buybutton = button(QStringLiteral("Buy"), {824, 250, 150, 40}, &Catalog::Buybutton_Click);
-  resize_->place(Owntitle, {40, 318, 200, 32}, 12);
-  resize_->place(TabInv, {40, 354, 620, 36}, 11);
-  resize_->place(Invlist, {40, 390, 620, 200}, 11);
-  SellButton = button(QStringLiteral("Sell"), {690, 390, 150, 40}, &Catalog::SellButton_Click);
-  resize_->place(Moneylab, {690, 450, 150, 44}, 16);
-  Closebox = button(QStringLiteral("Close"), {854, 550, 120, 40}, &Catalog::Closebox_Click);
+  // The catalogue's left page offers the item, the right page holds the hunter's own gear.
+  resize_->place(TabCat, {68, 146, 394, 32}, 9);
+  resize_->place(Itemname, {68, 186, 300, 40}, 13);
+  resize_->place(Itemcost, {376, 186, 86, 40}, 13);
+  resize_->place(Itempic, {145, 234, 240, 180});
+  resize_->place(Itemdesc, {68, 420, 394, 66}, 10);
+  catback = button(QStringLiteral("<< Back"), {68, 496, 120, 38}, &Catalog::catback_Click);
+  Catnext = button(QStringLiteral("Next >>"), {198, 496, 120, 38}, &Catalog::Catnext_Click);
+  Buybutton = button(QStringLiteral("Buy"), {342, 496, 120, 38}, &Catalog::Buybutton_Click);
+  resize_->place(Owntitle, {556, 100, 180, 32}, 12);
+  resize_->place(TabInv, {556, 140, 392, 32}, 9);
+  resize_->place(Invlist, {556, 172, 392, 300}, 11);
+  SellButton = button(QStringLiteral("Sell"), {556, 496, 120, 38}, &Catalog::SellButton_Click);
+  resize_->place(Moneylab, {686, 496, 130, 38}, 14);
+  Closebox = button(QStringLiteral("Close"), {828, 496, 120, 38}, &Catalog::Closebox_Click);
 }
 
 void Catalog::Form_Load() {

@@ -16,11 +16,11 @@ Hguide::Hguide()
       resize_(new platform::ReSize(this, lodge::kLodgeDesign)) {
   lodge::prepareLodgeScreen(*this, QStringLiteral("Hunting Guide"));
   RichTextBox1->setStyleSheet(
-      QStringLiteral("QTextEdit { background: #fbf6e9; color: #20180c; border: 2px solid #7a5a24; }"));
+      QStringLiteral("QTextEdit { background: rgba(251, 246, 233, 230); color: #20180c; border: none; }"));
   connect(Closebut, &QPushButton::clicked, this, &Hguide::Closebut_Click);
   resize_->place(Background, QRect(QPoint(0, 0), lodge::kLodgeDesign));
-  resize_->place(RichTextBox1, {70, 40, 874, 490}, 11);
-  resize_->place(Closebut, {824, 548, 120, 40}, 12);
+  resize_->place(RichTextBox1, {66, 92, 882, 430}, 11);
+  resize_->place(Closebut, {828, 528, 120, 38}, 12);
 }
 
 void Hguide::Form_Load() {

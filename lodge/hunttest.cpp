@@ -55,12 +55,12 @@ Hunttest::Hunttest()
 void Hunttest::placeWidgets() {
   resize_->place(Background, QRect(QPoint(0, 0), lodge::kLodgeDesign));
   for (int i = 0; i < lodge::kTestQuestions; ++i) {
-    resize_->place(Question[i], {40, 24 + 49 * i, 780, 44}, 11);
-    resize_->place(Check1[i], {836, 32 + 49 * i, 138, 28}, 11);
+    resize_->place(Question[i], {96, 110 + 41 * i, 670, 37}, 10);
+    resize_->place(Check1[i], {780, 114 + 41 * i, 140, 28}, 11);
   }
-  resize_->place(Scoretest, {40, 540, 170, 44}, 12);
-  resize_->place(printbut, {226, 540, 140, 44}, 12);
-  resize_->place(Closebox, {834, 540, 140, 44}, 12);
+  resize_->place(Scoretest, {96, 530, 170, 40}, 12);
+  resize_->place(printbut, {280, 530, 130, 40}, 12);
+  resize_->place(Closebox, {790, 530, 130, 40}, 12);
 }
 
 void Hunttest::Form_Load() {

@@ -76,22 +76,24 @@ void Inventory::buildSlotPages() {
 
 void Inventory::placeWidgets() {
   resize_->place(Background, QRect(QPoint(0, 0), lodge::kLodgeDesign));
-  resize_->place(tabinvent, {30, 30, 470, 36}, 11);
-  resize_->place(dwMList, {30, 66, 470, 470}, 11);
-  resize_->place(sstabequp, {530, 30, 454, 390}, 11);
+  // Between the pack's two straps: the owned gear and the slots; the weapon on the left
+  // flap, the wallet and the way out on the right one.
+  resize_->place(tabinvent, {198, 84, 334, 32}, 9);
+  resize_->place(dwMList, {198, 116, 334, 460}, 11);
+  resize_->place(sstabequp, {542, 84, 278, 492}, 10);
   // Slots sit in rows of three on their page, picture over name.
   std::array<int, lodge::kSlotPageCount> placed{};
   for (int slot = lodge::kFirstSlot; slot <= lodge::kLastSlot; ++slot) {
     const int n = placed[lodge::slotPage(slot)]++;
-    const int left = 20 + 144 * (n % kSlotColumns);
-    const int top = 16 + 170 * (n / kSlotColumns);
-    resize_->place(invequip[slot], {left + 27, top, 80, 80});
-    resize_->place(InvEqupLabel[slot], {left, top + 86, 134, 60}, 10);
+    const int left = 2 + 91 * (n % kSlotColumns);
+    const int top = 16 + 150 * (n / kSlotColumns);
+    resize_->place(invequip[slot], {left + 15, top, 60, 60});
+    resize_->place(InvEqupLabel[slot], {left, top + 66, 90, 56}, 9);
   }
-  resize_->place(wepicon, {530, 440, 64, 64});
-  resize_->place(Weaponlab, {606, 440, 230, 64}, 11);
-  resize_->place(Wallet1, {850, 440, 134, 64}, 16);
-  resize_->place(Closebox, {864, 550, 120, 40}, 12);
+  resize_->place(wepicon, {58, 90, 80, 80});
+  resize_->place(Weaponlab, {44, 178, 104, 84}, 9);
+  resize_->place(Wallet1, {868, 90, 102, 40}, 13);
+  resize_->place(Closebox, {868, 534, 102, 40}, 12);
 }
 
 QString Inventory::iconPath(int item) const {

@@ -66,22 +66,24 @@ Licence::Licence()
   Shape1->setAttribute(Qt::WA_TransparentForMouseEvents);
   Shape1->hide();
   for (QLabel* l : {Promptlab, Namelab, Moneylab}) lodge::onPaper(*l);
-  Moneylab->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  Promptlab->setWordWrap(true);
+  Moneylab->setAlignment(Qt::AlignCenter);
   connect(Closebox, &QPushButton::clicked, this, &Licence::Closebox_Click);
   placeWidgets();
 }
 
 void Licence::placeWidgets() {
   resize_->place(Background, QRect(QPoint(0, 0), lodge::kLodgeDesign));
-  resize_->place(Promptlab, {40, 30, 560, 46}, 18);
-  resize_->place(Namelab, {620, 36, 200, 34}, 12);
-  resize_->place(Moneylab, {834, 36, 140, 34}, 14);
+  // Tags pinned to the cork board in rows of four; the words under the season's note.
   for (int species = 1; species <= kSpeciesCount; ++species) {
     const int column = (species - 1) % kColumns;
     const int row = (species - 1) / kColumns;
-    resize_->place(Tagpic[species], {40 + 236 * column, 96 + 112 * row, 210, 100});
+    resize_->place(Tagpic[species], {62 + 172 * column, 106 + 116 * row, 160, 80});
   }
-  resize_->place(Closebox, {834, 552, 140, 40}, 12);
+  resize_->place(Promptlab, {750, 258, 212, 84}, 14);
+  resize_->place(Namelab, {750, 352, 212, 34}, 12);
+  resize_->place(Moneylab, {750, 396, 212, 40}, 16);
+  resize_->place(Closebox, {790, 522, 172, 40}, 12);
 }
 
 void Licence::readTables() {

@@ -59,18 +59,20 @@ QPushButton* Weapons::button(const QString& caption, QRect designRect, void (Wea
 
 void Weapons::placeWidgets() {
   resize_->place(Background, QRect(QPoint(0, 0), lodge::kLodgeDesign));
-  resize_->place(lbWeaponName, {50, 36, 560, 46}, 20);
-  resize_->place(Wepimage, {50, 96, 540, 180});
-  resize_->place(lbGame, {50, 290, 540, 70}, 11);
-  resize_->place(lbWepDesc, {50, 374, 914, 110}, 11);
+  // The weapon hangs on the rack's board, its papers lie on the sheet beside it, and the
+  // buttons stand between the window and the sheet; the brass plate above stays clear.
+  resize_->place(lbWeaponName, {56, 92, 560, 46}, 20);
+  resize_->place(Wepimage, {66, 150, 540, 180});
+  resize_->place(lbGame, {686, 380, 280, 62}, 9);
+  resize_->place(lbWepDesc, {686, 448, 280, 124}, 10);
   const std::array<QLabel*, 7> ballistics{lbwepLength, lbwepWeight, lbwepAmmo,  lbwepvelo,
                                           lbwepTraj,   lbweppoa,    lbwepenergy};
   for (int row = 0; row < static_cast<int>(ballistics.size()); ++row)
-    resize_->place(ballistics[row], {620, 96 + 38 * row, 344, 34}, 11);
-  catback = button(QStringLiteral("<< Back"), {50, 520, 150, 44}, &Weapons::catback_Click);
-  Catnext = button(QStringLiteral("Next >>"), {214, 520, 150, 44}, &Weapons::Catnext_Click);
-  selwep = button(QStringLiteral("Select Weapon"), {620, 520, 190, 44}, &Weapons::selwep_Click);
-  Cancelbox = button(QStringLiteral("Cancel"), {824, 520, 140, 44}, &Weapons::Cancelbox_Click);
+    resize_->place(ballistics[row], {686, 88 + 41 * row, 280, 38}, 9);
+  catback = button(QStringLiteral("<< Back"), {338, 404, 150, 42}, &Weapons::catback_Click);
+  Catnext = button(QStringLiteral("Next >>"), {500, 404, 150, 42}, &Weapons::Catnext_Click);
+  selwep = button(QStringLiteral("Select Weapon"), {338, 466, 312, 44}, &Weapons::selwep_Click);
+  Cancelbox = button(QStringLiteral("Cancel"), {338, 530, 312, 42}, &Weapons::Cancelbox_Click);
 }
 
 void Weapons::Form_Load() {
