@@ -115,7 +115,9 @@ void PrintFile::printDate(DateTime value) {
 
 void PrintFile::commit(const std::filesystem::path& path) const {
   QSaveFile file(QString::fromStdString(path.string()));
-  if (!file.open(QIODevice::WriteOnly) || file.write(data_) != data_.size() || !file.commit())
+  // Unbuffered: a write that fails in a buffer flushed only at commit is not reported by it.
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(data_) != data_.size() ||
+      !file.commit())
     throw std::runtime_error("cannot write " + path.string());
 }
 
