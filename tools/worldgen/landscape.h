@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // The outdoor scenery of each world in late December, painted as a strip that joins up at its
-// ends: sky, far ridges, ground, trees, water and snow. Panoramas show it whole; clips show a
-// piece of it behind the animal.
+// ends: a sky with the low winter sun, far ridges in haze, forest, ground, water and snow.
+// Panoramas show it whole; clips show a piece of it behind the animal.
 #pragma once
 
+#include "tools/worldgen/trees.h"
+
 #include <QChar>
+#include <QColor>
 #include <QImage>
 #include <QString>
 
@@ -19,6 +22,23 @@ struct LandscapeRequest {
   bool seamless = true;  // the strip is a full turn
 };
 
-QImage paintLandscape(const LandscapeRequest& request);
+// `description` is the place's own words: "...above the pond..." brings water, "timber" woods.
+QImage paintLandscape(const LandscapeRequest& request, const QString& description = {});
+
+// What grows and lies in a world, for painters that add things to its scenery.
+struct Flora {
+  TreeKind woods;
+  TreeKind second;
+  ShrubKind brush;
+  QColor stone;
+  QColor water;
+  QColor ground;
+  double snow;  // share of the ground under snow
+};
+
+Flora floraOf(QChar world);
+
+// A frozen pond or lake seen from eye height, with reeds or snow on its rim.
+void paintFrozenWater(QPainter& p, const QRectF& area, const Flora& flora, StableRandom& rnd);
 
 }  // namespace worldgen

@@ -6,9 +6,16 @@
 
 #include <QFile>
 
+#include <atomic>
 #include <cmath>
+#include <exception>
+#include <functional>
+#include <map>
+#include <mutex>
 #include <set>
 #include <stdexcept>
+#include <thread>
+#include <vector>
 
 namespace worldgen {
 
@@ -64,33 +71,71 @@ QImage paintPlace(const World& w, const Place& place, const QList<Spot>& spots, 
   if (place.name == QStringLiteral("3range")) return paintRange(spots);
   if (place.name == mapName(w)) return paintMap(w.letter, spots);
   const QString variant = imageNameOf(w, place).section(u'.', 0, 0).remove(QStringLiteral("x"));
-  return paintOutdoorPlace(w.letter, variant, kPanoramaWidth * scale, kPanoramaHeight * scale, spots);
+  return paintOutdoorPlace(w.letter, variant, place.description, kPanoramaWidth * scale,
+                           kPanoramaHeight * scale, spots);
+}
+
+QList<Spot> withTerrain(QList<Spot> spots, const std::map<QString, int>& terrain) {
+  for (Spot& s : spots)
+    if (const auto it = terrain.find(s.name); it != terrain.end()) s.terrain = it->second;
+  return spots;
 }
 
 class PanoramaWriter {
  public:
   explicit PanoramaWriter(const fs::path& root) : folder_(root / "surnd") { fs::create_directories(folder_); }
 
+  // What lies at each trail point of the world, so the picture shows it under its hotspot.
+  void learnTerrain(const World& w, const Content& c) {
+    for (const LocationRecord& r : locationRecords(w, c)) terrain_[r.hypername] = r.terrain;
+  }
+
   void write(const World& w, const Place& place) {
     const int scale = place.optics ? kOpticsScale : 1;
     const QSize size(kPanoramaWidth * scale, kPanoramaHeight * scale);
-    const QList<Spot> spots = layoutSpots(place.hotspots, size.width(), size.height());
+    const QList<Spot> spots = withTerrain(layoutSpots(place.hotspots, size.width(), size.height()), terrain_);
     const QString image = imageNameOf(w, place);
-    if (painted_.insert(image).second) {
-      // Hotspot names differ between the groups, but the things painted under them do not.
-      const QImage picture = paintPlace(w, place, spots, scale);
-      if (!picture.save(QString::fromStdString((folder_ / image.toStdString()).string()), "JPG", 85))
-        throw std::runtime_error("cannot write panorama " + image.toStdString());
-    }
+    // Hotspot names differ between the groups, but the things painted under them do not.
+    if (painted_.insert(image).second)
+      jobs_.push_back(
+          [=, path = folder_ / image.toStdString()] { paintInto(path, paintPlace(w, place, spots, scale)); });
     const QByteArray text = manifest(place, image, size, spots);
     if (place.optics) return writeFile(folder_ / ("63" + place.name + ".svh").toStdString(), text);
     for (const char* code : kResolutionCodes)
       writeFile(folder_ / (code + place.name + ".svh").toStdString(), text);
   }
 
+  // Paints the pictures on two threads: each is independent, and they are most of the work.
+  void paintAll() {
+    std::atomic<size_t> next = 0;
+    std::exception_ptr failure;
+    std::mutex failureLock;
+    const auto worker = [&] {
+      for (size_t i = next++; i < jobs_.size(); i = next++) {
+        try {
+          jobs_[i]();
+        } catch (...) {
+          const std::lock_guard lock(failureLock);
+          failure = std::current_exception();
+        }
+      }
+    };
+    std::thread helper(worker);
+    worker();
+    helper.join();
+    if (failure) std::rethrow_exception(failure);
+  }
+
  private:
+  static void paintInto(const fs::path& path, const QImage& picture) {
+    if (!picture.save(QString::fromStdString(path.string()), "JPG", 85))
+      throw std::runtime_error("cannot write panorama " + path.string());
+  }
+
   fs::path folder_;
   std::set<QString> painted_;
+  std::map<QString, int> terrain_;
+  std::vector<std::function<void()>> jobs_;
 };
 
 }  // namespace
@@ -107,8 +152,11 @@ QList<Place> panoramaPlaces(const World& w, const Content& c) {
 
 void writePanoramas(const Content& c, const fs::path& root) {
   PanoramaWriter writer(root);
-  for (const World& w : allWorlds())
+  for (const World& w : allWorlds()) {
+    writer.learnTerrain(w, c);
     for (const Place& place : panoramaPlaces(w, c)) writer.write(w, place);
+  }
+  writer.paintAll();
 }
 
 }  // namespace worldgen
