@@ -2,6 +2,7 @@
 #include "tools/worldgen/media_refs.h"
 
 #include "shell/names.h"
+#include "tools/worldgen/partner_pages.h"
 #include "tools/worldgen/records.h"
 #include "tools/worldgen/speech_lines.h"
 #include "tools/worldgen/tables.h"
@@ -15,6 +16,9 @@ namespace worldgen {
 namespace {
 
 const char* const kResolutionCodes[] = {"6", "8", "1"};
+// Weapon picture codes by weapon number; the sight picture adds the number itself.
+const char* const kWeaponPictureCodes[] = {"rifle0", "bolt0", "rifle0", "bolt0", "hgun0",
+                                           "12ga0",  "54hr0", "Bow0",   "RBow0"};
 
 class Collector {
  public:
@@ -30,6 +34,10 @@ class Collector {
   std::set<QString> seen_;
   QList<MediaRef> refs_;
 };
+
+void addPicture(Collector& out, const QString& path) {
+  out.add(path, MediaKind::Picture);
+}
 
 void addTables(Collector& out) {
   for (const char* name : {"items.csv", "tools.csv", "notequip.csv", "weptab.csv", "tagcost.csv",
@@ -62,6 +70,8 @@ void addClips(Collector& out, const World& w, const Content& c) {
       }
       const QString main = clipName(w, c, animal, 'c', k);
       out.add(QStringLiteral("Vmain\\") + main + QStringLiteral(".avi"), MediaKind::Clip);
+      if (animal <= kSpeciesCount)
+        addPicture(out, QStringLiteral("trophy\\") + main + QStringLiteral(".jpg"));
       out.add(QStringLiteral("Vmain\\") + main + QStringLiteral(".dat"), MediaKind::HitZone);
       out.add(QStringLiteral("VEscapes\\") + clipName(w, c, animal, 'e', k) + QStringLiteral(".avi"),
               MediaKind::Clip);
@@ -117,13 +127,43 @@ void addItemsAndWeapons(Collector& out, const Content& c) {
   out.add(QStringLiteral("sound\\cregstr.wav"), MediaKind::Sound);
 }
 
+// Pictures the screens name by resolution code, and those named once for the whole game.
+void addScreenPictures(Collector& out) {
+  for (const char* code : kResolutionCodes)
+    for (const char* name : {"mainmnu", "splash", "Postcd2", "bino", "rngf"})
+      addPicture(
+          out, QStringLiteral("art\\") + QLatin1String(code) + QLatin1String(name) + QStringLiteral(".bmp"));
+  for (int n = 0; n < kWorldCount; ++n) addPicture(out, QStringLiteral("art\\world%1.bmp").arg(n));
+  for (const char* name : {"load", "nitel", "nitec", "endgame", "bettluk", "jail", "mdnlogo"})
+    addPicture(out, QStringLiteral("art\\") + QLatin1String(name) + QStringLiteral(".bmp"));
+  addPicture(out, QStringLiteral("licnpics\\ftag.bmp"));
+  addPicture(out, QStringLiteral("licnpics\\natag.bmp"));
+  for (int n = 0; n < 10; ++n) addPicture(out, QStringLiteral("pict\\bullet%1.bmp").arg(n));
+  for (int weapon = 1; weapon <= kWeaponCount; ++weapon)
+    addPicture(out, QStringLiteral("pict\\") + QLatin1String(kWeaponPictureCodes[weapon - 1]) +
+                        QString::number(weapon) + QStringLiteral(".bmp"));
+  for (const char* folder : kPartnerFolders)
+    out.add(QLatin1String(folder) + QStringLiteral("\\index.htm"), MediaKind::Page);
+}
+
+// The backgrounds a world's screens build from its area letter, and its range pictures.
+void addWorldPictures(Collector& out, const World& w) {
+  for (const char* name :
+       {"catalog", "invent", "weapon", "license", "htest", "hguide", "peopbox", "award", "trophy"})
+    addPicture(out, QStringLiteral("art\\") + w.letter + QLatin1String(name) + QStringLiteral(".bmp"));
+  for (int targetClass = 0; targetClass < 4; ++targetClass)
+    addPicture(out, QStringLiteral("pict\\") + w.letter + QStringLiteral("range%1.bmp").arg(targetClass));
+}
+
 }  // namespace
 
 QList<MediaRef> referencedMedia(const Content& c) {
   Collector out;
   addTables(out);
   addItemsAndWeapons(out, c);
+  addScreenPictures(out);
   for (const World& w : allWorlds()) {
+    addWorldPictures(out, w);
     addRecords(out, w, c);
     addPanoramas(out, w, c);
     addClips(out, w, c);

@@ -10,7 +10,7 @@
 
 namespace worldgen {
 
-enum class MediaKind { Table, Record, Voice, Panorama, Picture, Clip, HitZone, Sound };
+enum class MediaKind { Table, Record, Voice, Panorama, Picture, Clip, HitZone, Sound, Page };
 
 struct MediaRef {
   QString path;  // game path under the media root, "\" separated

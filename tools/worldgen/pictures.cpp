@@ -4,8 +4,14 @@
 #include "shell/names.h"
 #include "tools/worldgen/animal_figure.h"
 #include "tools/worldgen/landscape.h"
+#include "tools/worldgen/lodge_screens.h"
+#include "tools/worldgen/night_pictures.h"
+#include "tools/worldgen/partner_pages.h"
+#include "tools/worldgen/shooting_pictures.h"
 #include "tools/worldgen/speech_lines.h"
 #include "tools/worldgen/stable_random.h"
+#include "tools/worldgen/title_screens.h"
+#include "tools/worldgen/trophy_photos.h"
 #include "tools/worldgen/world_layout.h"
 
 #include <QPainter>
@@ -79,23 +85,60 @@ QImage weaponPicture(int n, QSize size) {
   return image;
 }
 
-QImage tagPicture(int species) {
+// A tag card: a coloured stock with its eyelet, the species and the tag's number.
+QImage tagCard(QColor stock, const QString& title, const QString& line) {
   QImage image(200, 100, QImage::Format_RGB32);
-  image.fill(QColor(0xf2e6a8));
+  image.fill(stock);
   QPainter p(&image);
-  p.setPen(QPen(QColor(0x8a6a20), 3));
+  p.setRenderHint(QPainter::Antialiasing);
+  p.setPen(QPen(stock.darker(190), 3));
   p.drawRect(image.rect().adjusted(2, 2, -3, -3));
+  p.setBrush(QColor(0xc9a04a));
   p.drawEllipse(QRectF(10, 40, 16, 16));
+  p.setBrush(stock);
+  p.drawEllipse(QRectF(14, 44, 8, 8));
   QFont font = p.font();
   font.setPixelSize(16);
   font.setBold(true);
   p.setFont(font);
   p.setPen(QColor(0x3a2a10));
-  p.drawText(QRect(30, 10, 165, 40), Qt::AlignCenter, speciesNameOf(species));
+  p.drawText(QRect(30, 10, 165, 40), Qt::AlignCenter, title);
   font.setPixelSize(12);
   p.setFont(font);
-  p.drawText(QRect(30, 55, 165, 30), Qt::AlignCenter,
-             QStringLiteral("HUNTING TAG No. %1").arg(species, 4, 10, QChar(u'0')));
+  p.drawText(QRect(30, 55, 165, 30), Qt::AlignCenter, line);
+  return image;
+}
+
+QImage tagPicture(int species) {
+  return tagCard(QColor(0xf2e6a8), speciesNameOf(species),
+                 QStringLiteral("HUNTING TAG No. %1").arg(species, 4, 10, QChar(u'0')));
+}
+
+// A filled tag: punched through and stamped.
+QImage filledTag() {
+  QImage image = tagCard(QColor(0xe8d8b0), QStringLiteral("HUNTING TAG"), QStringLiteral("used this season"));
+  QPainter p(&image);
+  p.setRenderHint(QPainter::Antialiasing);
+  p.translate(112, 52);
+  p.rotate(-14);
+  QFont font = p.font();
+  font.setPixelSize(30);
+  font.setBold(true);
+  p.setFont(font);
+  const QRectF stamp(-80, -22, 160, 44);
+  p.setPen(QPen(QColor(180, 20, 20, 190), 3));
+  p.setBrush(Qt::NoBrush);
+  p.drawRoundedRect(stamp, 6, 6);
+  p.drawText(stamp, Qt::AlignCenter, QStringLiteral("FILLED"));
+  return image;
+}
+
+// A species this world does not hunt: a grey card, crossed out.
+QImage unavailableTag() {
+  QImage image = tagCard(QColor(0xbdbab2), QStringLiteral("NOT HUNTED"), QStringLiteral("in this world"));
+  QPainter p(&image);
+  p.setPen(QPen(QColor(90, 80, 70, 160), 3));
+  p.drawLine(QPointF(8, 92), QPointF(192, 8));
   return image;
 }
 
@@ -150,12 +193,21 @@ void writePictures(const Content& c, const fs::path& root) {
     save(tagPicture(s), root / "licnpics" / ("tag" + std::to_string(s) + ".bmp"));
     save(trophyPicture(s), root / "art" / ("Trophy" + std::to_string(s) + ".bmp"));
   }
+  save(filledTag(), root / "licnpics" / "ftag.bmp");
+  save(unavailableTag(), root / "licnpics" / "natag.bmp");
   std::set<QString> done;
   for (const World& w : allWorlds())
     for (const SpokenLine& line : spokenLines(c)) {
       const QString name = pictureOf(w, line.speaker);
       if (done.insert(name).second) save(portrait(name), root / "art" / (name + ".bmp").toStdString());
     }
+  writeLodgeScreens(root);
+  writeTitleScreens(root);
+  writeNightAndEndPictures(root);
+  writeOpticsOverlays(root);
+  writeShootingPictures(root);
+  writeTrophyPhotos(c, root);
+  writePartnerPages(root);
 }
 
 }  // namespace worldgen

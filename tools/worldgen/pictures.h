@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // The still pictures of the sample world: item pictures and icons, weapons, tags, trophies
-// and the portraits of the people one talks to.
+// and the portraits of the people one talks to; then every screen's own pictures, the
+// shooting scenes' sights and targets, the trophy photographs and the partners' pages.
 #pragma once
 
 #include "tools/worldgen/content.h"

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "tools/worldgen/trophy_photos.h"
+
+#include "shell/names.h"
+#include "tools/worldgen/animal_figure.h"
+#include "tools/worldgen/landscape.h"
+#include "tools/worldgen/materials.h"
+#include "tools/worldgen/picture_files.h"
+#include "tools/worldgen/records.h"
+#include "tools/worldgen/tables.h"
+#include "tools/worldgen/world_layout.h"
+
+#include <algorithm>
+#include <set>
+
+namespace worldgen {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr QSize kPhoto(320, 240);
+
+// The animal as the hunter last saw it, head up so its antlers or horns show, lit by the low
+// sun and framed as a snapshot with a white border.
+QImage trophyPhoto(QChar world, const QString& clip, int species) {
+  QImage image = paintLandscape({world, clip, kPhoto.width(), kPhoto.height(), 0.4, false});
+  QPainter p(&image);
+  p.setRenderHint(QPainter::Antialiasing);
+  StableRandom rnd(clip);
+  const AnimalLook& look = lookOf(species);
+  Pose pose;
+  pose.pixelsPerMetre = std::clamp(130 / look.metres, 25.0, 80.0);
+  pose.x = rnd.between(140, 180);
+  pose.ground = 200;
+  pose.facing = rnd.below(2) ? 1 : -1;
+  pose.headLift = 1;
+  drawAnimal(p, look, pose);
+  // Warm late light from the left, then the print's border.
+  QLinearGradient light(0, 0, kPhoto.width(), 0);
+  light.setColorAt(0, QColor(255, 200, 120, 40));
+  light.setColorAt(1, QColor(40, 40, 80, 40));
+  p.fillRect(image.rect(), light);
+  p.setPen(QPen(QColor(0xf8f6f0), 10));
+  p.setBrush(Qt::NoBrush);
+  p.drawRect(QRectF(image.rect()).adjusted(5, 5, -5, -5));
+  return image;
+}
+
+}  // namespace
+
+void writeTrophyPhotos(const Content& c, const fs::path& root) {
+  std::set<QString> done;
+  for (const World& w : allWorlds())
+    for (const int animal : animalsOf(c, w.letter)) {
+      if (animal > kSpeciesCount) continue;
+      for (int k = 1; k <= clipsPerAnimal(animal); ++k) {
+        const QString clip = clipName(w, c, animal, 'c', k);
+        if (done.insert(clip.toLower()).second)
+          saveJpeg(trophyPhoto(w.letter, clip, animal),
+                   root / "trophy" / (clip + QStringLiteral(".jpg")).toStdString());
+      }
+    }
+}
+
+}  // namespace worldgen
