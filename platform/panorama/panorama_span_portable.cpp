@@ -89,16 +89,13 @@ inline void blendPair(const uint32_t* a, const uint32_t* b, std::ptrdiff_t strid
 #endif
 
 // Where each sample of the row lies, and its weights; steps every column down a row.
-// Plain integer arithmetic over arrays, written for the vectoriser.
-__attribute__((optimize("tree-vectorize"))) void locateSamples(const Job& job) {
-  int32_t* __restrict position = job.position;
-  const int32_t* __restrict step = job.step;
-  const int32_t* __restrict column = job.column;
-  const uint8_t* __restrict columnWeight = job.columnWeight;
-  int32_t* __restrict offset = job.offsetScratch;
-  uint8_t* __restrict weight = job.weightScratch;
-  const int32_t stride = job.stride;
-  for (int i = 0; i < job.count; ++i) {
+// Plain integer arithmetic over arrays, written for the vectoriser: the pointers are
+// parameters because GCC trusts __restrict only there.
+__attribute__((optimize("tree-vectorize"))) void locateSamples(
+    int32_t* __restrict position, const int32_t* __restrict step, const int32_t* __restrict column,
+    const uint8_t* __restrict columnWeight, int32_t stride, int count, int32_t* __restrict offset,
+    uint8_t* __restrict weight) {
+  for (int i = 0; i < count; ++i) {
     const int32_t row = position[i];
     position[i] = row + step[i];
     offset[i] = ((row >> kFractionBits) + 1) * stride + column[i];
@@ -107,37 +104,44 @@ __attribute__((optimize("tree-vectorize"))) void locateSamples(const Job& job) {
   }
 }
 
-}  // namespace
-
-void bilinearPortable(const Job& job) {
-  locateSamples(job);
-  const uint32_t* pixels = job.pixels;
-  const int32_t* offset = job.offsetScratch;
-  const uint8_t* weight = job.weightScratch;
-  int i = 0;
-  for (; i + 1 < job.count; i += 2)
-    blendPair(pixels + offset[i], pixels + offset[i + 1], job.stride, kWeights[weight[i]],
-              kWeights[weight[i + 1]], job.out + i);
-  if (i < job.count) job.out[i] = blend(pixels + offset[i], job.stride, kWeights[weight[i]]);
-}
-
 // The image pixel nearest each sample point: half a pixel or more to the right or below
 // rounds to the next column or row, which the padding always holds.
-__attribute__((optimize("tree-vectorize"))) void nearestPortable(const Job& job) {
+__attribute__((optimize("tree-vectorize"))) void nearestSamples(
+    int32_t* __restrict position, const int32_t* __restrict step, const int32_t* __restrict column,
+    const uint8_t* __restrict columnWeight, const uint32_t* __restrict pixels, int32_t stride, int count,
+    uint32_t* __restrict out) {
   constexpr int32_t kHalf = 1 << (kFractionBits - 1);
   constexpr uint8_t kHalfColumn = (kSubSteps / 2) << kSubBits;
-  int32_t* __restrict position = job.position;
-  const int32_t* __restrict step = job.step;
-  const int32_t* __restrict column = job.column;
-  const uint8_t* __restrict columnWeight = job.columnWeight;
-  const uint32_t* __restrict pixels = job.pixels;
-  uint32_t* __restrict out = job.out;
-  for (int i = 0; i < job.count; ++i) {
+  for (int i = 0; i < count; ++i) {
     const int32_t row = position[i];
     position[i] = row + step[i];
     const int32_t right = columnWeight[i] >= kHalfColumn ? 1 : 0;
-    out[i] = pixels[(((row + kHalf) >> kFractionBits) + 1) * job.stride + column[i] + right];
+    out[i] = pixels[(((row + kHalf) >> kFractionBits) + 1) * stride + column[i] + right];
   }
+}
+
+}  // namespace
+
+void bilinearPortable(const Job& job) {
+  locateSamples(job.position, job.step, job.column, job.columnWeight, job.stride, job.count,
+                job.offsetScratch, job.weightScratch);
+  // Copied out of the job: the stores below could otherwise alias its fields.
+  const uint32_t* pixels = job.pixels;
+  const int32_t* offset = job.offsetScratch;
+  const uint8_t* weight = job.weightScratch;
+  const std::ptrdiff_t stride = job.stride;
+  const int count = job.count;
+  uint32_t* out = job.out;
+  int i = 0;
+  for (; i + 1 < count; i += 2)
+    blendPair(pixels + offset[i], pixels + offset[i + 1], stride, kWeights[weight[i]],
+              kWeights[weight[i + 1]], out + i);
+  if (i < count) out[i] = blend(pixels + offset[i], stride, kWeights[weight[i]]);
+}
+
+void nearestPortable(const Job& job) {
+  nearestSamples(job.position, job.step, job.column, job.columnWeight, job.pixels, job.stride, job.count,
+                 job.out);
 }
 
 }  // namespace platform::span
