@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+// The lodge, the camp, a fire and the night sky, painted from simple shapes.
 #include "tools/worldgen/lodge_outside.h"
 
 #include "tools/worldgen/stable_random.h"

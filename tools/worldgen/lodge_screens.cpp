@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+// The lodge screens' backgrounds, one set per area letter.
 #include "tools/worldgen/lodge_screens.h"
 
 #include "tools/worldgen/landscape.h"

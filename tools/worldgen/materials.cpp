@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+// Painting the lodge's materials stroke by stroke, each from its own seeded generator.
 #include "tools/worldgen/materials.h"
 
 #include <QLinearGradient>

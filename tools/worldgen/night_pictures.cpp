@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+// Night, end, jail and optics pictures shown full view over the hunting screen.
 #include "tools/worldgen/night_pictures.h"
 
 #include "tools/worldgen/landscape.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+// The partner folders' index pages and their heading pictures.
 #include "tools/worldgen/partner_pages.h"
 
 #include "tools/worldgen/landscape.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+// Writing pictures to disk in the formats and sizes the game reads.
 #include "tools/worldgen/picture_files.h"
 
 #include <stdexcept>

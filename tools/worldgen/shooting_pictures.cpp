@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+// Sights, bullet holes and range pictures for the two shooting scenes.
 #include "tools/worldgen/shooting_pictures.h"
 
 #include "tools/worldgen/landscape.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+// The menu, postcard, world, loading and sponsor pictures.
 #include "tools/worldgen/title_screens.h"
 
 #include "tools/worldgen/landscape.h"

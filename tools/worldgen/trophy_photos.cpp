@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+// One snapshot per game species' encounter clip, under trophy\.
 #include "tools/worldgen/trophy_photos.h"
 
 #include "shell/names.h"
@@ -30,9 +31,9 @@ QImage trophyPhoto(QChar world, const QString& clip, int species) {
   StableRandom rnd(clip);
   const AnimalLook& look = lookOf(species);
   Pose pose;
-  pose.pixelsPerMetre = std::clamp(130 / look.metres, 25.0, 80.0);
+  pose.pixelsPerMetre = std::clamp(95 / look.metres, 20.0, 60.0);
   pose.x = rnd.between(140, 180);
-  pose.ground = 200;
+  pose.ground = 212;
   pose.facing = rnd.below(2) ? 1 : -1;
   pose.headLift = 1;
   drawAnimal(p, look, pose);
