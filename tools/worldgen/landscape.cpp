@@ -54,7 +54,7 @@ Scenery sceneryOf(QChar world) {
               0.0,
               Texture::Grass,
               {TreeKind::Cottonwood, TreeKind::Hardwood, ShrubKind::Twigs, QColor(0xb09a7a), QColor(0xa8c0d4),
-               QColor(0xb89a64), 0.12},
+               QColor(0xb89a64), 0.08},
               0.3,
               4,
               10,
@@ -126,7 +126,7 @@ Scenery sceneryOf(QChar world) {
               QColor(0x9c7e5c),
               QColor(0x74563a),
               Relief::Hills,
-              0.13,
+              0.2,
               0.0,
               Texture::Leaves,
               {TreeKind::Hardwood, TreeKind::Oak, ShrubKind::Twigs, QColor(0x8a8078), QColor(0x9ab0c4),
@@ -144,6 +144,7 @@ struct PlaceTraits {
   double treeFactor = 1;
   bool water = false, lake = false, river = false;
   double shrubFactor = 1, rockFactor = 1;
+  bool clearing = false;
   TreeKind second;
   double secondShare;
 };
@@ -163,6 +164,7 @@ PlaceTraits traitsOf(const Scenery& s, const QString& description) {
   if (has({"range"})) t.treeFactor = 0.1;  // a cleared shooting range
   if (has({"timber", "thicket", "pine", "spruce", "saddle", "lodgepole", "hollow", "cedars"}))
     t.treeFactor = 1.6;
+  t.clearing = has({"camp"});  // room for the tents and the fire before the viewer
   t.lake = has({"lake"});
   t.water = s.pond || has({"pond", "beaver", "wallow", "tank"});
   t.river = has({"river", "creek"});
@@ -283,7 +285,11 @@ QPainterPath paintRidge(Canvas& c, const RidgeLayer& layer, StableRandom& rnd) {
     const QColor light =
         slope < 0 ? withAlpha(QColor(255, 240, 220), int(std::min(70.0, -slope * 160) * (1 - layer.haze)))
                   : withAlpha(QColor(40, 50, 80), int(std::min(60.0, slope * 120) * (1 - layer.haze)));
-    c.p.setBrush(light);
+    // Each face fades down its slope, so the columns leave no edge at their feet.
+    QLinearGradient fade(0, tops[i], 0, tops[i] + depth);
+    fade.setColorAt(0, light);
+    fade.setColorAt(1, withAlpha(light, 0));
+    c.p.setBrush(fade);
     c.p.drawRect(QRect(int(x) - step / 2, int(tops[i]) + 1, step, int(depth)));
   }
   c.p.setRenderHint(QPainter::Antialiasing, true);
@@ -363,8 +369,12 @@ void paintGround(Canvas& c, StableRandom& rnd) {
     drawAcrossSeam(x - size * 3, x + size * 3, c.r.width, c.r.seamless, [&](double shift) {
       if (snow) {
         const bool shade = c.s.texture == Texture::Snow && rnd.unit() < 0.4;
-        c.p.setBrush(shade ? QColor(190, 204, 228, 60) : QColor(250, 252, 255, 120));
-        c.p.drawEllipse(QPointF(x + shift, y), size * rnd.between(2, 6), size * 0.4);
+        // A patch of a few overlapping drifts reads as snow lying in the grass, not as a disc.
+        c.p.setBrush(shade ? QColor(190, 204, 228, 50) : QColor(250, 252, 255, 90));
+        for (int k = 0; k < 3; ++k)
+          c.p.drawEllipse(
+              QPointF(x + shift + rnd.between(-1.5, 1.5) * size, y + rnd.between(-0.3, 0.3) * size),
+              size * rnd.between(0.8, 2), size * rnd.between(0.25, 0.45));
         return;
       }
       const QColor mark = c.s.groundNear.lighter(int(rnd.between(75, 140)));
@@ -442,6 +452,11 @@ void paintTrees(Canvas& c, const PlaceTraits& t, StableRandom& rnd) {
     trees << Stand{QPointF(x, c.horizonY + (1 + d * (c.r.height - c.horizonY - 1))), pickTree(c.s, t, rnd),
                    rnd.next()};
   }
+  if (t.clearing)
+    trees.removeIf([&](const Stand& tree) {
+      return tree.foot.x() > c.r.width * 0.2 && tree.foot.x() < c.r.width * 0.82 &&
+             depthAt(c, tree.foot.y()) > 0.06;
+    });
   std::sort(trees.begin(), trees.end(),
             [](const Stand& a, const Stand& b) { return a.foot.y() < b.foot.y(); });
   for (const Stand& tree : trees) {

@@ -68,8 +68,8 @@ struct Placement {
 // Where each thing of the lodge stands, going round from the fireplace wall.
 const std::map<QString, Placement>& placements() {
   static const std::map<QString, Placement> table = {
-      {"&range", {0.029, 0.073, 2.15, 0}},    {"%test", {0.098, 0.166, 1.05, 0.5}},
-      {"$movie", {0.186, 0.266, 1.5, 0.4}},   {"+book", {0.303, 0.352, 1.35, 0.9}},
+      {"&range", {0.029, 0.073, 2.15, 0}},    {"%test", {0.138, 0.2, 1.05, 0.5}},
+      {"$movie", {0.218, 0.29, 1.5, 0.4}},    {"+book", {0.31, 0.355, 1.35, 0.9}},
       {"@guide", {0.378, 0.415, 1.85, 1.2}},  {"@host", {0.579, 0.615, 1.85, 1.2}},
       {"!outfit", {0.635, 0.774, 2.3, 0}},    {"*tags", {0.789, 0.86, 2.2, 0}},
       {"@warden", {0.874, 0.911, 1.85, 1.2}}, {"^camp", {0.955, 0.994, 2.15, 0}},
@@ -524,7 +524,7 @@ QImage paintLodge(const QList<Spot>& spots) {
   paintWalls(p, room, rnd);
   paintCeilingAndFloor(p, room);
   const double w = kPanoramaWidth;
-  for (const auto& [x0, x1] : {std::pair{0.105, 0.16}, std::pair{0.925, 0.948}, std::pair{0.012, 0.024}})
+  for (const auto& [x0, x1] : {std::pair{0.15, 0.188}, std::pair{0.925, 0.948}, std::pair{0.012, 0.024}})
     paintWindow(p, room, x0 * w, x1 * w, rnd);
   paintFireplace(p, room, 0.43 * w, 0.57 * w, rnd);
   paintMount(p, QPointF(0.5 * w, room.y(0.5 * w, 2.15, 0.25)), 80 * room.unit());

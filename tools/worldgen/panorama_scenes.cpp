@@ -7,6 +7,7 @@
 #include "tools/worldgen/stable_random.h"
 #include "tools/worldgen/trees.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -75,6 +76,9 @@ void paintSignpost(QPainter& p, const QRect& a, const QString& text) {
   QFont font(QStringLiteral("DejaVu Sans"));
   font.setBold(true);
   font.setPixelSize(std::max(6, int(board.height() * 0.55)));
+  const double room = board.width() - board.height() * 0.7;
+  while (font.pixelSize() > 6 && QFontMetricsF(font).horizontalAdvance(text) > room)
+    font.setPixelSize(font.pixelSize() - 1);
   p.setFont(font);
   p.setPen(QColor(0x2a1a0a));
   p.drawText(board.adjusted(0, 0, -board.height() / 2, 0), Qt::AlignCenter, text);
@@ -95,7 +99,7 @@ bool isCamp(const QStringList& names) {
 
 QList<Spot> campLayout(const QStringList& names, int width, int height) {
   return {Spot{names[0], QRect(int(width * 0.27), int(height * 0.5), int(width * 0.085), int(height * 0.2))},
-          Spot{names[1], QRect(int(width * 0.78), int(height * 0.42), width / 36, height / 4)}};
+          Spot{names[1], QRect(int(width * 0.78), int(height * 0.42), width / 30, height / 4)}};
 }
 
 }  // namespace
@@ -112,7 +116,7 @@ QList<Spot> layoutSpots(const QStringList& names, int width, int height) {
     const bool trail = names[i].startsWith(u'~');
     const int row = trail ? i % 3 : 0;  // far, middle and near trail points
     const double grow = trail ? 0.75 + 0.3 * row : 1.0;
-    const int w = int(width / (trail ? 30 : 36) * grow), h = int(height / (trail ? 8 : 4) * grow);
+    const int w = int(width / (trail ? 30 : 32) * grow), h = int(height / (trail ? 8 : 4) * grow);
     const int y = int(height * (trail ? 0.56 + 0.1 * row : 0.44)) - h / 2;
     spots << Spot{names[i], QRect((i * 2 + 1) * width / (2 * n) - w / 2, std::max(0, y), w, h)};
   }

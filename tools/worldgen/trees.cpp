@@ -42,7 +42,7 @@ void paintLimb(QPainter& p, QPointF from, double angle, double length, double wi
   const int forks = 2 + (rnd.unit() < 0.35);
   for (int k = 0; k < forks; ++k) {
     const double turn = l.spread * (k - (forks - 1) / 2.0) + rnd.between(-0.25, 0.25);
-    paintLimb(p, to, angle + turn, length * l.shrink * rnd.between(0.85, 1.1), width * 0.62, depth - 1, l,
+    paintLimb(p, to, angle + turn, length * l.shrink * rnd.between(0.85, 1.1), width * 0.58, depth - 1, l,
               bark, leaves, rnd);
   }
 }
@@ -57,19 +57,19 @@ void paintBroadleaf(QPainter& p, QPointF foot, double h, const Limb& limb, QColo
   p.setPen(Qt::NoPen);
   p.setBrush(twigs);
   p.drawEllipse(foot - QPointF(0, h * 0.68), crownWidth, h * 0.36);
-  const int depth = h < 25 ? 2 : h < 80 ? 3 : limb.depth;
+  const int depth = h < 25 ? 2 : h < 80 ? 3 : h < 160 ? limb.depth : limb.depth + 1;
   const QPointF fork = foot - QPointF(0, h * rnd.between(0.3, 0.42));
   QLinearGradient trunk(foot.x() - h * 0.03, 0, foot.x() + h * 0.03, 0);
   trunk.setColorAt(0, bark.lighter(125));
   trunk.setColorAt(1, bark.darker(130));
   p.setBrush(trunk);
-  p.drawPolygon(QPolygonF({foot + QPointF(-h * 0.035, 0), foot + QPointF(h * 0.035, 0),
-                           fork + QPointF(h * 0.018, 0), fork - QPointF(h * 0.018, 0)}));
+  p.drawPolygon(QPolygonF({foot + QPointF(-h * 0.028, 0), foot + QPointF(h * 0.028, 0),
+                           fork + QPointF(h * 0.014, 0), fork - QPointF(h * 0.014, 0)}));
   const double length = (h - (foot.y() - fork.y())) * 0.45;
   const int limbs = 2 + rnd.below(2);
   for (int k = 0; k < limbs; ++k)
     paintLimb(p, fork, (k - (limbs - 1) / 2.0) * limb.spread * 0.8 + rnd.between(-0.15, 0.15), length,
-              h * 0.03, depth, limb, bark, leaves, rnd);
+              h * 0.022, depth, limb, bark, leaves, rnd);
   p.setPen(Qt::NoPen);
 }
 
