@@ -197,7 +197,10 @@ void HuntRobot::step(surround& hunting) {
 // In the field mostly time passes; now and then the hunter looks about, walks or uses gear.
 void HuntRobot::fieldStep(surround& hunting) {
   const int roll = choices_.below(100);
-  if (roll < 70 && hunting.Timer2->isActive()) {
+  // A hunter on a wounded animal's trail walks the trail points looking for it.
+  if (Game.TrackedSpecies > 0 && roll < 40) {
+    useHotspot(hunting, false, u'~');
+  } else if (roll < 70 && hunting.Timer2->isActive()) {
     action_ = QStringLiteral("tick");
     ++tally_.ticks;
     hunting.Timer2_Timer();
@@ -280,10 +283,16 @@ void HuntRobot::openMenu(surround& hunting) {
 }
 
 // Points at a hotspot of the view in front, and clicks it when asked; the pointer then moves off.
-void HuntRobot::useHotspot(surround& hunting, bool click) {
+void HuntRobot::useHotspot(surround& hunting, bool click, QChar kind) {
   const bool optics = Game.OpticsUp != 0;
   auto& view = viewOf(optics ? *hunting.SVControl2 : *hunting.svcontrol1);
-  const QStringList names = hotspotsOf(view.loaded());
+  QStringList names = hotspotsOf(view.loaded());
+  if (!kind.isNull()) {
+    QStringList ofKind;
+    for (const QString& name : names)
+      if (name.startsWith(kind)) ofKind << name;
+    if (!ofKind.isEmpty()) names = ofKind;
+  }
   if (names.isEmpty()) {
     action_ = QStringLiteral("nothing to point at in ") + view.loaded();
     return;

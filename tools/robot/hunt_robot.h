@@ -63,7 +63,8 @@ class HuntRobot {
   void fieldStep(surround& hunting);
   void placeStep(surround& hunting);
   bool pressButton(surround& hunting);
-  void useHotspot(surround& hunting, bool click);
+  // Any hotspot, or one whose name starts with `kind` when the view has such.
+  void useHotspot(surround& hunting, bool click, QChar kind = {});
   void openMenu(surround& hunting);
   void checkAfterStep(const QString& action);
   void endHunt(const QString& how);
