@@ -115,17 +115,23 @@ void paintPine(QPainter& p, QPointF foot, double h, QColor needles, double snow,
   p.setBrush(trunk);
   p.drawPolygon(QPolygonF({foot + QPointF(-h * 0.02, 0), foot + QPointF(h * 0.02, 0),
                            foot + QPointF(h * 0.005, -h), foot + QPointF(-h * 0.005, -h)}));
-  for (int k = 0; k < 40; ++k) {
+  const int clumps = h < 40 ? 16 : 70;
+  for (int k = 0; k < clumps; ++k) {
     const double f = 0.5 + 0.52 * std::sqrt(rnd.unit());
-    const double side = rnd.between(-1, 1) * h * 0.1 * (1.1 - f) * 2.2;
+    const double side = rnd.between(-1, 1) * h * 0.24 * (1.1 - f);
     const QPointF c(foot.x() + side, foot.y() - h * f);
-    const double r = h * rnd.between(0.025, 0.045);
+    const double r = h * rnd.between(0.014, 0.028);
+    if (h > 60) {  // the limb carrying the tuft
+      p.setPen(QPen(QColor(0x4a3626), std::max(0.6, h * 0.004)));
+      p.drawLine(QPointF(foot.x(), c.y() + r), c);
+      p.setPen(Qt::NoPen);
+    }
     p.setBrush(side < 0 ? needles.lighter(int(rnd.between(100, 130)))
                         : needles.darker(int(rnd.between(100, 140))));
-    p.drawEllipse(c, r * 1.5, r * 0.8);
-    if (snow > 0.3 && rnd.unit() < 0.4) {
-      p.setBrush(withAlpha(kSnow, 210));
-      p.drawEllipse(c - QPointF(0, r * 0.5), r * 1.1, r * 0.3);
+    p.drawEllipse(c, r * 1.6, r * 0.9);
+    if (snow > 0.3 && rnd.unit() < 0.25) {
+      p.setBrush(withAlpha(kSnow, 190));
+      p.drawEllipse(c - QPointF(0, r * 0.5), r * 0.9, r * 0.25);
     }
   }
 }
