@@ -115,8 +115,7 @@ bool HuntRobot::startHunt() {
     tally_.breakInvariant(QStringLiteral("hunt %1: the start screen ended the program").arg(tally_.hunts));
     return false;
   }
-  const auto catalog = options_.world / Game.DbaseDir.chopped(1).toStdString() / "catalog.isd";
-  invariants_.setCatalog(readCatalogSlots(catalog));
+  readCatalog();
   const bool accepted = setUpPostcard();
   ScreenInstance<Postcard>::unload();
   if (!accepted) {
@@ -125,6 +124,12 @@ bool HuntRobot::startHunt() {
   }
   checkAfterStep(action_);
   return true;
+}
+
+// The catalogue of the group of worlds now played, for the item checks.
+void HuntRobot::readCatalog() {
+  invariants_.setCatalog(
+      readCatalogSlots(options_.world / Game.DbaseDir.chopped(1).toStdString() / "catalog.isd"));
 }
 
 // A new hunt in a random world at a random skill, now and then a quick one, or a saved game.
@@ -277,8 +282,7 @@ void HuntRobot::openMenu(surround& hunting) {
   if (play_.loadedGame) {
     play_.loadedGame = false;
     invariants_.forgetClock();
-    invariants_.setCatalog(
-        readCatalogSlots(options_.world / Game.DbaseDir.chopped(1).toStdString() / "catalog.isd"));
+    readCatalog();
   }
 }
 

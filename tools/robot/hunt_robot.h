@@ -58,6 +58,7 @@ class HuntRobot {
  private:
   bool startHunt();
   bool setUpPostcard();
+  void readCatalog();
   void playHunt();
   void step(surround& hunting);
   void fieldStep(surround& hunting);
