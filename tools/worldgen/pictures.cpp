@@ -7,6 +7,7 @@
 #include "tools/worldgen/lodge_screens.h"
 #include "tools/worldgen/night_pictures.h"
 #include "tools/worldgen/partner_pages.h"
+#include "tools/worldgen/portraits.h"
 #include "tools/worldgen/shooting_pictures.h"
 #include "tools/worldgen/speech_lines.h"
 #include "tools/worldgen/stable_random.h"
@@ -151,27 +152,6 @@ QImage trophyPicture(int species) {
   pose.ground = 215;
   pose.headLift = 1;
   drawAnimal(p, lookOf(species), pose);
-  return image;
-}
-
-QImage portrait(const QString& key) {
-  StableRandom rnd(key);
-  QImage image(120, 150, QImage::Format_RGB32);
-  image.fill(QColor(0x7a5a3a));
-  QPainter p(&image);
-  p.setRenderHint(QPainter::Antialiasing);
-  p.setPen(Qt::NoPen);
-  const QRgb coats[] = {0x8a2a1a, 0x3a5a2a, 0x2a3a5a, 0x6a5a2a, 0x5a3a5a};
-  p.setBrush(QColor(coats[rnd.below(5)]));
-  p.drawRoundedRect(QRectF(15, 95, 90, 70), 20, 20);
-  p.setBrush(QColor(0xe0b494).darker(int(rnd.between(100, 135))));
-  p.drawEllipse(QRectF(35, 35, 50, 62));
-  p.setBrush(QColor(0x2a2018));
-  p.drawEllipse(QRectF(48, 58, 5, 5));
-  p.drawEllipse(QRectF(67, 58, 5, 5));
-  p.setBrush(QColor(rnd.below(2) ? 0x4a3a2a : 0xb04020));  // a hat
-  p.drawRect(QRectF(25, 32, 70, 8));
-  p.drawRoundedRect(QRectF(38, 14, 44, 22), 6, 6);
   return image;
 }
 
