@@ -3,6 +3,7 @@
 
 #include "shell/names.h"
 #include "tools/worldgen/animal_figure.h"
+#include "tools/worldgen/item_pictures.h"
 #include "tools/worldgen/landscape.h"
 #include "tools/worldgen/lodge_screens.h"
 #include "tools/worldgen/night_pictures.h"
@@ -32,13 +33,8 @@ void save(const QImage& image, const fs::path& file) {
     throw std::runtime_error("cannot write " + file.string());
 }
 
-QColor categoryColour(int category) {
-  const QRgb colours[] = {0x5a6a3a, 0x7a4a2a, 0x3a4a6a, 0x6a3a3a, 0x4a5a5a, 0x6a5a2a};
-  return QColor(colours[category % 6]);
-}
-
-// A card with the item's name over a plain drawing of its kind.
-QImage itemPicture(const QString& name, int category, QSize size) {
+// A card with the item drawn on it and, when there is room, its name below.
+QImage itemPicture(const QString& name, int kind, QSize size) {
   QImage image(size, QImage::Format_RGB32);
   QPainter p(&image);
   p.setRenderHint(QPainter::Antialiasing);
@@ -46,13 +42,12 @@ QImage itemPicture(const QString& name, int category, QSize size) {
   back.setColorAt(0, QColor(0xf0e8d8));
   back.setColorAt(1, QColor(0xd8ccb4));
   p.fillRect(image.rect(), back);
-  p.setPen(QPen(categoryColour(category).darker(130), std::max(1, size.width() / 60)));
-  p.setBrush(categoryColour(category));
-  const QRectF art(size.width() * 0.2, size.height() * 0.12, size.width() * 0.6, size.height() * 0.55);
-  p.drawRoundedRect(art, art.width() / 8, art.width() / 8);
-  p.setBrush(categoryColour(category).lighter(150));
-  p.drawEllipse(art.adjusted(art.width() * 0.3, art.height() * 0.2, -art.width() * 0.3, -art.height() * 0.2));
-  if (size.width() < 64) return image;
+  const bool named = size.width() >= 64;
+  const QRectF art =
+      named ? QRectF(size.width() * 0.2, size.height() * 0.08, size.width() * 0.6, size.height() * 0.6)
+            : QRectF(QPointF(1, 1), QSizeF(size) - QSizeF(2, 2));
+  drawItem(p, art, kind, name);
+  if (!named) return image;
   QFont font = p.font();
   font.setPixelSize(size.height() / 10);
   p.setFont(font);
@@ -161,9 +156,9 @@ void writePictures(const Content& c, const fs::path& root) {
   for (int row = 0; row < c.catalog.rows.size(); ++row) {
     const std::string id = cell(c.catalog, row, "ID").toStdString();
     const QString name = cell(c.catalog, row, "Item");
-    const int category = cell(c.catalog, row, "CatNumber").toInt();
-    save(itemPicture(name, category, QSize(200, 150)), root / "invpics" / ("image" + id + ".bmp"));
-    save(itemPicture(name, category, QSize(32, 32)), root / "invpics" / ("icon" + id + ".bmp"));
+    const int kind = cell(c.catalog, row, "Sub-CatNumber").toInt();
+    save(itemPicture(name, kind, QSize(200, 150)), root / "invpics" / ("image" + id + ".bmp"));
+    save(itemPicture(name, kind, QSize(32, 32)), root / "invpics" / ("icon" + id + ".bmp"));
   }
   for (int n = 1; n <= kWeaponCount; ++n) {
     save(weaponPicture(n, QSize(300, 100)), root / "pict" / ("weapon" + std::to_string(n) + ".bmp"));
