@@ -14,6 +14,7 @@
 #include "tools/worldgen/stable_random.h"
 #include "tools/worldgen/title_screens.h"
 #include "tools/worldgen/trophy_photos.h"
+#include "tools/worldgen/weapon_pictures.h"
 #include "tools/worldgen/world_layout.h"
 
 #include <QPainter>
@@ -54,30 +55,6 @@ QImage itemPicture(const QString& name, int kind, QSize size) {
   p.setPen(QColor(0x2a2018));
   p.drawText(QRectF(4, size.height() * 0.7, size.width() - 8, size.height() * 0.28),
              Qt::AlignCenter | Qt::TextWordWrap, name);
-  return image;
-}
-
-QImage weaponPicture(int n, QSize size) {
-  QImage image(size, QImage::Format_RGB32);
-  image.fill(QColor(0xe8e0d0));
-  QPainter p(&image);
-  p.setRenderHint(QPainter::Antialiasing);
-  p.scale(size.width() / 300.0, size.height() / 100.0);
-  const bool bow = n >= 8;
-  p.setPen(QPen(QColor(0x2a2a2a), bow ? 5 : 1));
-  if (bow) {
-    p.setBrush(Qt::NoBrush);
-    p.drawArc(QRectF(60, 5, 60, 90), -80 * 16, 160 * 16);
-    p.setPen(QPen(QColor(0x606060), 1));
-    p.drawLine(QPointF(99, 8), QPointF(99, 92));
-    p.drawLine(QPointF(40, 50), QPointF(280, 50));
-    return image;
-  }
-  p.setBrush(QColor(0x5a3a1e));  // stock
-  p.drawPolygon(QPolygonF({QPointF(20, 45), QPointF(110, 48), QPointF(120, 62), QPointF(30, 80)}));
-  p.setBrush(QColor(0x303030));  // action and barrel
-  p.drawRect(QRectF(110, 44, n == 5 ? 90 : 170, 8));
-  if (n != 6) p.drawRoundedRect(QRectF(120, 30, 70, 10), 4, 4);  // scope
   return image;
 }
 
