@@ -56,6 +56,7 @@ void surround::showPlaceText(const QString& extra) {
 void surround::Surrinit() {
   loadPanorama(Game.StartPano, kFacingSouth);
   svcontrol1->widget()->show();
+  showPlaceText();
   Sleeppic->hide();
   opticspic->hide();
   Setheadbox();
@@ -192,6 +193,11 @@ void surround::walkTo(const QString& name) {
     case 1: Saynotext(QStringLiteral("chstand")); break;
     case 3: enterField(*place); break;
     default: break;
+  }
+  // The head box always says where the hunter stands, not only in the field.
+  if (Game.PlaceMode != 3) {
+    Game.CurLocation = place->description;
+    showPlaceText();
   }
   loadPanorama(place->filejump, int32_t(rt::Int(place->heading * 3600.0)));
   Setheadbox();

@@ -122,6 +122,7 @@ TEST_F(SurroundTest, WalkingToCampCostsTwoHoursWithoutEndingTheDay) {
             QStringLiteral("Monday 8:30 PM"));
   EXPECT_EQ(Game.PlaceMode, 2);
   EXPECT_FALSE(screen().Sleeppic->isVisibleTo(&screen()));
+  EXPECT_EQ(screen().Poidescript->text(), QStringLiteral("The camp by the creek\r\n"));
 }
 
 TEST_F(SurroundTest, IntoTheFieldTheHunterChoosesQuarryAndWeapon) {
