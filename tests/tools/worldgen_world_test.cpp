@@ -242,6 +242,8 @@ TEST_F(MappedWorld, EveryPathLeadsToAPlaceTheGameCanName) {
         if (loctype == 3) {
           EXPECT_EQ(row[4].right(1), row[3].right(1)) << "a stand's text ends in its number";
         }
+        // The place's text goes into the save file bare; a comma would cut it, and the sights after it.
+        EXPECT_FALSE(row[4].contains(u',')) << row[4].toStdString();
       } else {
         ASSERT_TRUE(row[0].startsWith(u'~'));
         EXPECT_GE(row[7].toInt(), 1) << "every trail point has ground to remark on";

@@ -51,7 +51,6 @@ QString Tally::summary() const {
   text += line(QStringLiteral("trophies"), trophies);
   text += line(QStringLiteral("saves"), saves);
   text += line(QStringLiteral("loads"), loads);
-  text += line(QStringLiteral("loads cut at a comma"), loadsCutAtComma);
   text += line(QStringLiteral("message boxes"), messageBoxes);
   text += QStringLiteral("tag codes seen         ") + breakdown(tagCodesSeen) + u'\n';
   text += QStringLiteral("screens shown          ") + breakdown(screensShown) + u'\n';

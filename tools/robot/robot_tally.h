@@ -19,7 +19,6 @@ struct Tally {
   int trophies = 0;
   int saves = 0;
   int loads = 0;
-  int loadsCutAtComma = 0;  // loads that stopped at a text with a comma
   int messageBoxes = 0;
   std::map<QString, int> huntEnds;      // "jail", "week over", "all tags", "restart", "step limit"
   std::map<QString, int> screensShown;  // by class

@@ -49,20 +49,6 @@ QString firstDifference(const QList<QByteArray>& saved, const QList<QByteArray>&
   return {};
 }
 
-// A text is written bare and read back up to its first comma, and what follows the comma
-// then stops the reading of the numbers after it. That loss is the file format's own, so the
-// files are compared only up to such a line, and the robot counts it apart. True when cut.
-bool cutAtComma(QList<QByteArray>& saved, QList<QByteArray>& again) {
-  for (qsizetype i = 0; i < std::min(saved.size(), again.size()); ++i) {
-    const qsizetype comma = saved[i].indexOf(',');
-    if (comma < 0 || saved[i] == again[i] || saved[i].left(comma).trimmed() != again[i]) continue;
-    saved.resize(i);
-    again.resize(i);
-    return true;
-  }
-  return false;
-}
-
 void saveGame(Filer& menu, PlayContext& play) {
   const QString name = kSaveNames[play.choices.below(int(kSaveNames.size()))];
   menu.Savegamebut_Click();
@@ -87,8 +73,7 @@ void checkLoaded(const QString& path, PlayContext& play) {
   }
   QList<QByteArray> again = linesOf(fileBytes(copy));
   platform::files().remove(copy);
-  QList<QByteArray> saved = linesOf(play.saved[path]);
-  if (cutAtComma(saved, again)) ++play.tally.loadsCutAtComma;
+  const QList<QByteArray> saved = linesOf(play.saved[path]);
   const QString difference = firstDifference(saved, again);
   if (!difference.isEmpty())
     play.tally.breakInvariant(

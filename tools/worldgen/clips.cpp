@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tools/worldgen/clips.h"
+#include "tools/worldgen/two_painters.h"
 
 #include "shell/names.h"
 #include "tools/worldgen/clip_writer.h"
@@ -77,27 +78,6 @@ void writeBytes(const fs::path& file, const QByteArray& bytes) {
 
 using PoseAt = std::function<Pose(int)>;
 using Job = std::function<void()>;
-
-// Clips are independent files, so two painters share the work without changing a byte.
-void runJobs(const std::vector<Job>& jobs) {
-  std::atomic<size_t> next{0};
-  std::exception_ptr failure;
-  std::mutex failureLock;
-  auto worker = [&] {
-    for (size_t i = next++; i < jobs.size(); i = next++) {
-      try {
-        jobs[i]();
-      } catch (...) {
-        const std::lock_guard lock(failureLock);
-        failure = std::current_exception();
-      }
-    }
-  };
-  std::thread helper(worker);
-  worker();
-  helper.join();
-  if (failure) std::rethrow_exception(failure);
-}
 
 void writeAnimalClip(const fs::path& file, const QImage& backdrop, int animal, int frames,
                      const PoseAt& poseAt) {
@@ -317,7 +297,7 @@ QByteArray hitZoneFile(int animal, int k) {
 void writeClips(const Content& c, const fs::path& root) {
   ClipSet clips(c, root);
   for (const World& w : allWorlds()) clips.addWorld(w);
-  runJobs(clips.jobs());
+  runOnTwoThreads(clips.jobs());
 }
 
 }  // namespace worldgen

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tools/worldgen/panoramas.h"
+#include "tools/worldgen/two_painters.h"
 
 #include "tools/worldgen/panorama_scenes.h"
 #include "tools/worldgen/world_layout.h"
@@ -106,25 +107,7 @@ class PanoramaWriter {
   }
 
   // Paints the pictures on two threads: each is independent, and they are most of the work.
-  void paintAll() {
-    std::atomic<size_t> next = 0;
-    std::exception_ptr failure;
-    std::mutex failureLock;
-    const auto worker = [&] {
-      for (size_t i = next++; i < jobs_.size(); i = next++) {
-        try {
-          jobs_[i]();
-        } catch (...) {
-          const std::lock_guard lock(failureLock);
-          failure = std::current_exception();
-        }
-      }
-    };
-    std::thread helper(worker);
-    worker();
-    helper.join();
-    if (failure) std::rethrow_exception(failure);
-  }
+  void paintAll() { runOnTwoThreads(jobs_); }
 
  private:
   static void paintInto(const fs::path& path, const QImage& picture) {
