@@ -23,26 +23,28 @@ namespace {
 constexpr int32_t kFacingSouth = 648000;
 const QString kPublisherSite = QStringLiteral("https://www.varnholt-games.example/");
 
+// The head box's screens cover the view; its timer and buttons rest until they close.
+template <class Screen>
+void showOverHeadBox(surround& hunting) {
+  hunting.Clearheadbox();
+  showModalScreen<Screen>();
+  hunting.Setheadbox();
+}
+
 }  // namespace
 
 void surround::bntHuntgd_Click() {
-  Clearheadbox();
-  showModalScreen<Hguide>();
-  Setheadbox();
+  showOverHeadBox<Hguide>(*this);
 }
 
 void surround::butInv_Click() {
-  Clearheadbox();
-  showModalScreen<Inventory>();
-  Setheadbox();
+  showOverHeadBox<Inventory>(*this);
   SetItembuttons();
   Scopeoff();
 }
 
 void surround::ChangeWep_Click() {
-  Clearheadbox();
-  showModalScreen<Weapons>();
-  Setheadbox();
+  showOverHeadBox<Weapons>(*this);
 }
 
 void surround::Campbut_Click() {

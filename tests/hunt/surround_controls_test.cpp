@@ -25,6 +25,23 @@ TEST_F(SurroundTest, ItemButtonsFollowWhatTheHunterCarries) {
   EXPECT_TRUE(screen().Windbut->isEnabled());
 }
 
+TEST_F(SurroundTest, TheInventoryCoversTheViewAndGivesItBackWithTheOpticsDown) {
+  placeAt(3, QStringLiteral("3Dstnd1"));
+  Game.EquipSlots[7] = 2;
+  screen().Scopeon();
+  screen().Timer2->start();
+  bool covered = false;
+  screens->on(QStringLiteral("Inventory"), [&](QWidget&) {
+    covered = screen().frmBlank->isVisibleTo(&screen()) && !screen().Timer2->isActive();
+    return 0;
+  });
+  screen().butInv_Click();
+  EXPECT_TRUE(covered);
+  EXPECT_TRUE(screen().Huntbox->isVisibleTo(&screen()));
+  EXPECT_FALSE(screen().frmBlank->isVisibleTo(&screen()));
+  EXPECT_EQ(Game.OpticsUp, 0);
+}
+
 TEST_F(SurroundTest, AGameLoadedFromTheMenuReopensItsPlaceAndOneSavedAtTheRangeTheLodge) {
   placeAt(3, QStringLiteral("3Dstnd1"));
   const auto loadFromMenu = [&](int16_t place, int16_t stand) {
