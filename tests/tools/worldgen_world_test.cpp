@@ -9,6 +9,7 @@
 #include "shell/names.h"
 #include "shell/save_file_layout.h"
 #include "shell/save_files.h"
+#include "tools/generated_world.h"
 #include "tools/worldgen/content.h"
 #include "tools/worldgen/media_refs.h"
 #include "tools/worldgen/records.h"
@@ -33,31 +34,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using namespace worldgen;
-
-const Content& content() {
-  static const Content c = loadContent(defaultContentFolder());
-  return c;
-}
-
-// Generated worlds shared by the suite: the tables, records and voices take a few seconds, the
-// painted media some more, so only the tests about every file wait for those.
-fs::path generated(WorldParts parts) {
-  static QTemporaryDir dir;
-  const fs::path r =
-      fs::path(dir.path().toStdString()) / (parts == WorldParts::Everything ? "full" : "tables");
-  writeWorld(content(), r, parts);
-  return r;
-}
-
-const fs::path& worldRoot() {
-  static const fs::path root = generated(WorldParts::TablesRecordsAndVoices);
-  return root;
-}
-
-const fs::path& fullWorldRoot() {
-  static const fs::path root = generated(WorldParts::Everything);
-  return root;
-}
 
 QByteArray readBytes(const fs::path& file) {
   QFile in(QString::fromStdString(file.string()));
