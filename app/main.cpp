@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // The game's entry point: the application object that catches what handlers throw, the
 // drive map, the stored settings and the defaults of a new game, then the first screen.
+#include "app/command_line.h"
 #include "app/error_handler.h"
+#include "app/world_folder.h"
 #include "hunt/surround.h"
 #include "shell/game_state.h"
 #include "shell/gamestart.h"
@@ -10,25 +12,19 @@
 #include "shell/run_settings.h"
 #include "shell/screen_instance.h"
 
-#include <QDir>
 #include <QStandardPaths>
 #include <QTimer>
 
 namespace {
 
-// The sample world is generated beside the executable's build; an installed game may
-// store another folder in the drive map.
-QString bundledWorld() {
-  return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../world"));
-}
-
 bool startUp() {
-  ensureInstallDefaults(QDir::cleanPath(bundledWorld()),
-                        QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+  const QString world = findWorld();
+  ensureInstallDefaults(world, QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+  mapMediaDriveTo(world);
   mapStoredDrives();
   Gamestart& start = ScreenInstance<Gamestart>::get();
   start.Form_Load();
-  start.showFullScreen();
+  showGameScreen(start);
   const bool goOn = start.Form_Activate();
   ScreenInstance<Gamestart>::unload();
   return goOn;
@@ -37,7 +33,7 @@ bool startUp() {
 // The new-hunt screen sets up a hunt, or loads one; false when the player leaves instead.
 bool setUpHunt() {
   Postcard& card = ScreenInstance<Postcard>::get();
-  card.showFullScreen();
+  showGameScreen(card);
   const bool accepted = card.exec() == QDialog::Accepted;
   ScreenInstance<Postcard>::unload();
   return accepted;
@@ -52,7 +48,7 @@ void startHunting() {
   surround& hunting = ScreenInstance<surround>::get();
   hunting.Form_Load();
   hunting.Surrinit();
-  hunting.showFullScreen();
+  showGameScreen(hunting);
 }
 
 // Starting again goes back through the start screen, as on the first start.
@@ -68,9 +64,14 @@ void restart() {
 }  // namespace
 
 int main(int argc, char** argv) {
+  QCoreApplication::setApplicationVersion(QStringLiteral(HUNT_VERSION));
+  if (const std::optional<int> answered = answerHelpOrVersion(argc, argv)) return *answered;
   GameApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Hunting"));
   QApplication::setOrganizationName(QStringLiteral("Hunting"));
+  CommandLine options;
+  if (const std::optional<int> refused = readRunOptions(app.arguments(), options)) return *refused;
+  applyCommandLine(options);
   installHelpKey();
   // Screens come and go between the start screen, the postcard and the hunt; the game ends
   // only when the hunting screen closes or the player quits.
