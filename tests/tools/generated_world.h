@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-// Generated worlds shared by the world generator's suites, made once per test program.
+// Generated worlds shared by the world generator's suites: the world the build generated when
+// there is one, so that no test process paints a whole world again; otherwise one made once
+// per test program.
 #pragma once
 
 #include "tools/worldgen/content.h"
@@ -26,13 +28,23 @@ inline std::filesystem::path generated(WorldParts parts) {
   return r;
 }
 
+// The build's world is made by this build's generator from this content before the tests are
+// built, so it is the world the generator writes; builds that make none write their own.
+inline std::filesystem::path builtOrGenerated(WorldParts parts) {
+#ifdef HUNT_BUILT_WORLD_DIR
+  const std::filesystem::path built = HUNT_BUILT_WORLD_DIR;
+  if (std::filesystem::is_directory(built / "data")) return built;
+#endif
+  return generated(parts);
+}
+
 inline const std::filesystem::path& worldRoot() {
-  static const std::filesystem::path root = generated(WorldParts::TablesRecordsAndVoices);
+  static const std::filesystem::path root = builtOrGenerated(WorldParts::TablesRecordsAndVoices);
   return root;
 }
 
 inline const std::filesystem::path& fullWorldRoot() {
-  static const std::filesystem::path root = generated(WorldParts::Everything);
+  static const std::filesystem::path root = builtOrGenerated(WorldParts::Everything);
   return root;
 }
 

@@ -2,6 +2,7 @@
 // worldgen: writes the sample world into a folder, or lists the media files it refers to.
 #include "tools/worldgen/content.h"
 #include "tools/worldgen/media_refs.h"
+#include "tools/worldgen/terminal_progress.h"
 #include "tools/worldgen/world_writer.h"
 
 #include <QGuiApplication>
@@ -41,7 +42,10 @@ int main(int argc, char** argv) {
   try {
     const worldgen::Content content = worldgen::loadContent(contentFolder);
     if (args[0] == QStringLiteral("--list-media")) return listMedia(content);
-    worldgen::writeWorld(content, args[0].toStdString());
+    const std::filesystem::path root = args[0].toStdString();
+    worldgen::TerminalProgress progress(root);
+    worldgen::writeWorld(content, root, worldgen::WorldParts::Everything,
+                         [&progress](std::string_view stage) { progress.stage(stage); });
   } catch (const std::exception& error) {
     std::fprintf(stderr, "worldgen: %s\n", error.what());
     return 1;

@@ -63,8 +63,13 @@ void writeGroup(const Content& c, const fs::path& root, bool permit,
 
 }  // namespace
 
-void writeWorld(const Content& c, const fs::path& root, WorldParts parts) {
+void writeWorld(const Content& c, const fs::path& root, WorldParts parts, const StageReport& onStage) {
+  const auto stage = [&onStage](std::string_view name) {
+    if (onStage) onStage(name);
+  };
+  stage("tables");
   writeTables(c, root / "data");
+  stage("voices");
   const QList<SpokenLine> lines = spokenLines(c);
   std::map<QChar, WorldVoices> voices;
   for (const World& w : distinctAreas()) {
@@ -72,12 +77,17 @@ void writeWorld(const Content& c, const fs::path& root, WorldParts parts) {
     for (const auto& [name, bytes] : voices[w.letter].files)
       writeBytes(root / "sound" / (name.toStdString() + ".wav"), bytes);
   }
+  stage("records");
   writeGroup(c, root, false, voices);
   writeGroup(c, root, true, voices);
   if (parts != WorldParts::Everything) return;
+  stage("panoramas");
   writePanoramas(c, root);
+  stage("clips");
   writeClips(c, root);
+  stage("pictures");
   writePictures(c, root);
+  stage("sounds");
   writeSounds(c, root);
 }
 
