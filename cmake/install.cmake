@@ -39,6 +39,7 @@ install(FILES ${hunt_dist_dir}/${HUNT_APP_ID}.desktop DESTINATION ${CMAKE_INSTAL
 install(FILES ${hunt_dist_dir}/${HUNT_APP_ID}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES ${hunt_dist_dir}/hunt.6.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
 install(FILES ${PROJECT_SOURCE_DIR}/docs/assets.md DESTINATION ${hunt_data_dir} RENAME credits.md)
+install(FILES ${PROJECT_SOURCE_DIR}/dist/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 if(HUNT_GENERATE_WORLD)
   install(DIRECTORY ${PROJECT_BINARY_DIR}/world/ DESTINATION ${hunt_data_dir}/world)
 else()
