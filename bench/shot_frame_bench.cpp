@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // The video shot's frame as the scene draws it: the clip moves on one picture, is blown up to
 // the screen's whole scale and composited with the sight, at 1024 x 768 and 1920 x 1080.
-// "Scene" runs the real scene (decoding ahead on the clip's worker thread); "Serial" decodes on
-// the calling thread, so it is the cost on one core. Budget: 2 ms a frame at 1024 x 768.
+// The clip is one the world ships (MPEG-4): WORLD names the world's folder, by default the one
+// built beside this program, and CLIP the clip, by default a whitetail deer's. "Scene" runs the real scene
+// (decoding ahead on the clip's worker thread); "Serial" decodes on the calling thread, so it is the cost on
+// one core. Budget: 2 ms a frame at 1024 x 768.
 #include "platform/fakes/media_manual_clock.h"
-#include "platform/fakes/media_test_clips.h"
 #include "platform/files.h"
 #include "platform/media/audio_output.h"
 #include "platform/media/video_reader.h"
@@ -16,46 +17,59 @@
 #include "shooting/videoshot.h"
 
 #include <QApplication>
-#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
 
 namespace {
 
 using namespace platform;
 
-constexpr int kFps = 15;
-constexpr int kClipFrames = 150;
+namespace fs = std::filesystem;
 
-// A media drive with a detailed 320 x 240 clip, its hit zones and a rifle's sight strip.
-const QTemporaryDir& mediaDrive() {
-  static QTemporaryDir dir;
-  static const bool made = [] {
-    const std::filesystem::path root = dir.path().toStdString();
-    for (const char* folder : {"Vmain", "VEscapes", "VHits", "pict"})
-      std::filesystem::create_directories(root / folder);
-    writeTestClip(root / "Vmain" / "deer1.avi",
-                  TestClip{.frames = kClipFrames, .fps = kFps, .size = {320, 240}, .detailed = true});
-    QImage strip(6 * 160, 120, QImage::Format_RGB32);
-    strip.fill(Qt::magenta);
-    for (int frame = 0; frame < 6; ++frame)
-      for (int i = 0; i < 120; ++i) {
-        strip.setPixel(frame * 160 + 80, i, qRgb(0, 0, 0));
-        strip.setPixel(frame * 160 + 20 + i, 60, qRgb(0, 0, 0));
-      }
-    strip.save(QString::fromStdString((root / "pict" / "rifle03.bmp").string()));
-    return true;
+constexpr int kFps = 15;
+
+fs::path worldRoot() {
+  if (const char* chosen = std::getenv("WORLD")) return chosen;
+  return fs::read_symlink("/proc/self/exe").parent_path().parent_path() / "world";
+}
+
+QString clipName() {
+  const char* chosen = std::getenv("CLIP");
+  return QString::fromUtf8(chosen ? chosen : "PcWtDeer1");
+}
+
+fs::path clipFile() {
+  const fs::path file = worldRoot() / "Vmain" / (clipName() + ".avi").toStdString();
+  if (!fs::exists(file)) {
+    std::fprintf(stderr, "shot_frame_bench: no %s: build the world target\n", file.c_str());
+    std::exit(1);
+  }
+  return file;
+}
+
+// Pictures in the clip, so the scene starts over before it runs out.
+int clipFrames() {
+  static const int frames = [] {
+    VideoReader reader(clipFile());
+    VideoFrame frame;
+    int n = 0;
+    while (reader.next(frame)) ++n;
+    return n;
   }();
-  (void)made;
-  return dir;
+  return frames;
 }
 
 void startHunt(QSize screen) {
-  files().mapDrive(u'D', mediaDrive().path().toStdString());
+  files().mapDrive(u'D', worldRoot());
   Game = GameState{};
   Game.ScreenWidth = screen.width() * 15;
   Game.ScreenHeight = screen.height() * 15;
-  Game.VideoName = QStringLiteral("deer1");
+  Game.VideoName = clipName();
+  clipFrames();
   Game.EscapeVideoName = QStringLiteral("EMPTY");
   Game.CurAnimal = 9;
   Game.CurWeapon = 3;
@@ -75,7 +89,7 @@ void BM_ShotSceneFrame(benchmark::State& state) {
   int step = 0;
   for (auto _ : state) {
     // One picture on, replayed from the start before the clip ends.
-    if (++step % (kClipFrames - 2) == 0) {
+    if (++step % (clipFrames() - 2) == 0) {
       state.PauseTiming();
       ScreenInstance<Videoshot>::unload();
       Videoshot& again = ScreenInstance<Videoshot>::get();
@@ -101,7 +115,7 @@ void BM_ShotFrameSerial(benchmark::State& state) {
   const QSize screen(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
   const int scale = clipDisplayScale(screen.height(), false);
   const QPoint origin = clipDisplayOrigin(screen, scale);
-  VideoReader reader(std::filesystem::path(mediaDrive().path().toStdString()) / "Vmain" / "deer1.avi");
+  VideoReader reader(clipFile());
   VideoFrame frame;
   QImage sight(160, 120, QImage::Format_ARGB32);
   sight.fill(Qt::transparent);

@@ -40,16 +40,58 @@ void PanoramaImage::Release::operator()(uint32_t* p) const {
   std::free(p);
 }
 
-PanoramaImage::PanoramaImage(const QImage& image)
-    : width_(image.width()), height_(image.height()), stride_(paddedStride(width_)) {
-  const QImage rgb = image.convertToFormat(QImage::Format_RGB32);
-  pixels_.reset(allocatePixels(static_cast<size_t>(height_ + 2) * stride()));
-  for (int y = -1; y <= height_; ++y) {
-    const auto* source = reinterpret_cast<const uint32_t*>(rgb.constScanLine(std::clamp(y, 0, height_ - 1)));
-    uint32_t* row = pixels_.get() + static_cast<size_t>(y + 1) * stride();
-    std::copy_n(source, width_, row);
-    row[width_] = source[0];
+PanoramaImage::PanoramaImage(const QImage& image) {
+  allocate(image.width(), image.height());
+  copyRows(image.convertToFormat(QImage::Format_RGB32));
+  padEdges();
+}
+
+PanoramaImage::PanoramaImage(QImageReader& reader) {
+  const QSize size = reader.size();
+  if (size.isEmpty()) {
+    // A format that cannot tell its size first is read whole, then copied.
+    if (const QImage image = reader.read(); !image.isNull()) *this = PanoramaImage(image);
+    return;
   }
+  allocate(size.width(), size.height());
+  uint32_t* first = pixels_.get() + stride();
+  QImage rows(reinterpret_cast<uchar*>(first), width_, height_, stride() * 4, QImage::Format_RGB32);
+  if (!reader.read(&rows)) {
+    pixels_.reset();
+    width_ = height_ = 0;
+    return;
+  }
+  // A reader may hand back an image of its own (another format, or a picture of another size).
+  if (rows.constBits() != reinterpret_cast<const uchar*>(first) || rows.size() != QSize(width_, height_)) {
+    const QImage own = rows;
+    allocate(own.width(), own.height());
+    copyRows(own.convertToFormat(QImage::Format_RGB32));
+  }
+  padEdges();
+}
+
+void PanoramaImage::allocate(int width, int height) {
+  width_ = width;
+  height_ = height;
+  stride_ = paddedStride(width);
+  pixels_.reset(allocatePixels(static_cast<size_t>(height + 2) * stride()));
+}
+
+void PanoramaImage::copyRows(const QImage& image) {
+  for (int y = 0; y < height_; ++y)
+    std::copy_n(reinterpret_cast<const uint32_t*>(image.constScanLine(y)), width_,
+                pixels_.get() + static_cast<size_t>(y + 1) * stride());
+}
+
+// The row above, the row below and the wrap-around column.
+void PanoramaImage::padEdges() {
+  if (height_ <= 0) return;
+  uint32_t* rows = pixels_.get();
+  std::copy_n(rows + stride(), width_, rows);
+  std::copy_n(rows + static_cast<size_t>(height_) * stride(), width_,
+              rows + static_cast<size_t>(height_ + 1) * stride());
+  for (int y = 0; y < height_ + 2; ++y)
+    rows[static_cast<size_t>(y) * stride() + width_] = rows[static_cast<size_t>(y) * stride()];
 }
 
 }  // namespace platform

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QImage>
+#include <QImageReader>
 
 #include <cstddef>
 #include <cstdint>
@@ -14,6 +15,11 @@ namespace platform {
 class PanoramaImage {
  public:
   explicit PanoramaImage(const QImage& image);
+  // Decodes straight into the padded rows where the reader's format allows, which saves a
+  // copy of the whole picture; `isNull()` when the file cannot be read.
+  explicit PanoramaImage(QImageReader& reader);
+
+  bool isNull() const { return !pixels_; }
 
   int width() const { return width_; }
   int height() const { return height_; }
@@ -33,6 +39,10 @@ class PanoramaImage {
     void operator()(uint32_t* p) const;
   };
   std::unique_ptr<uint32_t[], Release> pixels_;
+
+  void allocate(int width, int height);
+  void copyRows(const QImage& image);
+  void padEdges();
 };
 
 }  // namespace platform

@@ -24,12 +24,12 @@ std::deque<Entry>& recent() {
 
 std::shared_ptr<const PanoramaImage> decode(const std::filesystem::path& file, QString& error) {
   QImageReader reader(QString::fromStdString(file.string()));
-  const QImage image = reader.read();
-  if (image.isNull()) {
+  auto image = std::make_shared<const PanoramaImage>(reader);
+  if (image->isNull()) {
     error = QStringLiteral("%1: %2").arg(reader.fileName(), reader.errorString());
     return nullptr;
   }
-  return std::make_shared<const PanoramaImage>(image);
+  return image;
 }
 
 }  // namespace

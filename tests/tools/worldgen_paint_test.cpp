@@ -146,6 +146,17 @@ TEST(WorldgenPanoramas, EveryManifestLoadsWithTheHotspotsOfItsPlace) {
         const QSize size = QImageReader(QString::fromStdString(manifest->image.string())).size();
         EXPECT_EQ(platform::checkHotspotBounds(*manifest, size.width(), size.height()), QString()) << file;
         EXPECT_NEAR(manifest->verticalFovDegrees, 61, 1) << file;
+        // A stand is seen one to one at code "1", and twice as fine again through the optics.
+        if (const QString image = QString::fromStdString(manifest->image.filename().string());
+            image.contains(QStringLiteral("stand"))) {
+          const int expected = image.endsWith(QStringLiteral("x.jpg"))   ? 12288
+                               : image.endsWith(QStringLiteral("f.jpg")) ? 6144
+                                                                         : 2048;
+          EXPECT_EQ(size.width(), expected) << file;
+          if (code == QStringLiteral("1")) {
+            EXPECT_EQ(size.width(), 6144) << file;
+          }
+        }
         ++manifests;
       }
     }

@@ -2,11 +2,14 @@
 #include "tools/worldgen/panoramas.h"
 #include "tools/worldgen/two_painters.h"
 
+#include "tools/worldgen/fine_detail.h"
 #include "tools/worldgen/panorama_scenes.h"
+#include "tools/worldgen/stable_random.h"
 #include "tools/worldgen/world_layout.h"
 
 #include <QFile>
 
+#include <algorithm>
 #include <atomic>
 #include <cmath>
 #include <exception>
@@ -24,9 +27,21 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kOpticsScale = 2;  // the optics picture is twice as fine as the stand's
+// Resolution code "1" is drawn on screens about 1920 pixels wide: a picture three times the
+// small one shows one image pixel to one screen pixel at the centre of the view. Codes "6"
+// and "8" keep the small picture. The optics magnify twice, so their picture is twice the
+// large one, and every code shares it.
+constexpr int kFineScale = 3;
+constexpr int kOpticsScale = 2 * kFineScale;
 
-const char* const kResolutionCodes[] = {"6", "8", "1"};
+struct Picture {
+  int scale;         // times the small picture's size
+  const char* mark;  // added to the file name, so each size has its own file
+};
+
+constexpr Picture kSmall{1, ""};
+constexpr Picture kFine{kFineScale, "f"};
+constexpr Picture kOptics{kOpticsScale, "x"};
 
 QString fieldOfView(int width, int height) {
   const double degrees = 2 * std::atan(3.141592653589793 * height / width) * 180 / 3.141592653589793;
@@ -55,7 +70,7 @@ void writeFile(const fs::path& file, const QByteArray& bytes) {
 }
 
 // The picture's file name: one per area and place, so both world groups share it.
-QString imageNameOf(const World& w, const Place& place) {
+QString imageNameOf(const World& w, const Place& place, const Picture& picture) {
   if (place.name == QStringLiteral("3lodge") || place.name == QStringLiteral("3range"))
     return place.name + ".jpg";
   QString kind = QStringLiteral("map");
@@ -64,16 +79,25 @@ QString imageNameOf(const World& w, const Place& place) {
   for (int s = 1; s <= kStandCount; ++s)
     if (place.name == standName(w, s) || place.name == opticsName(w, s))
       kind = QStringLiteral("stand") + QString::number(s);
-  return QString(w.letter) + kind + (place.optics ? QStringLiteral("x.jpg") : QStringLiteral(".jpg"));
+  return QString(w.letter) + kind + QLatin1String(picture.mark) + QStringLiteral(".jpg");
 }
 
-QImage paintPlace(const World& w, const Place& place, const QList<Spot>& spots, int scale) {
+// The lodge, the range and the map are painted at one size whatever the code.
+bool paintedAtOneSize(const World& w, const Place& place) {
+  return place.name == QStringLiteral("3lodge") || place.name == QStringLiteral("3range") ||
+         place.name == mapName(w);
+}
+
+QImage paintPlace(const World& w, const Place& place, const QList<Spot>& spots, const Picture& picture) {
   if (place.name == QStringLiteral("3lodge")) return paintLodge(spots);
   if (place.name == QStringLiteral("3range")) return paintRange(spots);
   if (place.name == mapName(w)) return paintMap(w.letter, spots);
-  const QString variant = imageNameOf(w, place).section(u'.', 0, 0).remove(QStringLiteral("x"));
-  return paintOutdoorPlace(w.letter, variant, place.description, kPanoramaWidth * scale,
-                           kPanoramaHeight * scale, spots);
+  // Every size of a place shows the same scene: the painters' seed is the name of the small one.
+  const QString variant = imageNameOf(w, place, kSmall).section(u'.', 0, 0);
+  QImage image = paintOutdoorPlace(w.letter, variant, place.description, kPanoramaWidth * picture.scale,
+                                   kPanoramaHeight * picture.scale, spots);
+  if (picture.scale > 1) paintFineDetail(image, StableRandom::hashOf(variant));
+  return image;
 }
 
 QList<Spot> withTerrain(QList<Spot> spots, const std::map<QString, int>& terrain) {
@@ -92,24 +116,38 @@ class PanoramaWriter {
   }
 
   void write(const World& w, const Place& place) {
-    const int scale = place.optics ? kOpticsScale : 1;
-    const QSize size(kPanoramaWidth * scale, kPanoramaHeight * scale);
-    const QList<Spot> spots = withTerrain(layoutSpots(place.hotspots, size.width(), size.height()), terrain_);
-    const QString image = imageNameOf(w, place);
-    // Hotspot names differ between the groups, but the things painted under them do not.
-    if (painted_.insert(image).second)
-      jobs_.push_back(
-          [=, path = folder_ / image.toStdString()] { paintInto(path, paintPlace(w, place, spots, scale)); });
-    const QByteArray text = manifest(place, image, size, spots);
-    if (place.optics) return writeFile(folder_ / ("63" + place.name + ".svh").toStdString(), text);
-    for (const char* code : kResolutionCodes)
-      writeFile(folder_ / (code + place.name + ".svh").toStdString(), text);
+    if (place.optics) return write(w, place, kOptics, {QStringLiteral("63")});
+    if (paintedAtOneSize(w, place)) return write(w, place, kSmall, {"6", "8", "1"});
+    write(w, place, kSmall, {"6", "8"});
+    write(w, place, kFine, {"1"});
   }
 
   // Paints the pictures on two threads: each is independent, and they are most of the work.
-  void paintAll() { runOnTwoThreads(jobs_); }
+  // The largest go first, so neither thread is left with a big one at the end.
+  void paintAll() {
+    std::stable_sort(jobs_.begin(), jobs_.end(),
+                     [](const Job& a, const Job& b) { return a.scale > b.scale; });
+    std::vector<std::function<void()>> paint;
+    for (const Job& job : jobs_) paint.push_back(job.paint);
+    runOnTwoThreads(paint);
+  }
 
  private:
+  // One picture of a place and the manifests, one per name prefix, that show it.
+  void write(const World& w, const Place& place, const Picture& picture, const QStringList& prefixes) {
+    const QSize size(kPanoramaWidth * picture.scale, kPanoramaHeight * picture.scale);
+    const QList<Spot> spots = withTerrain(layoutSpots(place.hotspots, size.width(), size.height()), terrain_);
+    const QString image = imageNameOf(w, place, picture);
+    // Hotspot names differ between the groups, but the things painted under them do not.
+    if (painted_.insert(image).second)
+      jobs_.push_back({picture.scale, [=, path = folder_ / image.toStdString()] {
+                         paintInto(path, paintPlace(w, place, spots, picture));
+                       }});
+    const QByteArray text = manifest(place, image, size, spots);
+    for (const QString& prefix : prefixes)
+      writeFile(folder_ / (prefix + place.name + ".svh").toStdString(), text);
+  }
+
   static void paintInto(const fs::path& path, const QImage& picture) {
     if (!picture.save(QString::fromStdString(path.string()), "JPG", 85))
       throw std::runtime_error("cannot write panorama " + path.string());
@@ -118,7 +156,11 @@ class PanoramaWriter {
   fs::path folder_;
   std::set<QString> painted_;
   std::map<QString, int> terrain_;
-  std::vector<std::function<void()>> jobs_;
+  struct Job {
+    int scale;
+    std::function<void()> paint;
+  };
+  std::vector<Job> jobs_;
 };
 
 }  // namespace
