@@ -233,10 +233,14 @@ void drawAnimal(QPainter& p, const AnimalLook& look, const Pose& pose) {
 
 HitRecord hitZonesOf(const AnimalLook& look, const Pose& pose) {
   const Anatomy a = anatomyOf(look, pose);
+  return zoneRecord({a.headgear, a.vital, a.head, a.gut, a.trunk | a.hump, legBox(a)});
+}
+
+HitRecord zoneRecord(const ZoneBoxes& b) {
   QList<HitZone> zones;
-  if (!a.headgear.isEmpty()) zones << zoneOf(a.headgear, kHeadgearZone);
-  zones << zoneOf(a.vital, kVitalZone) << zoneOf(a.head, kHeadZone) << zoneOf(a.gut, kGutZone)
-        << zoneOf(a.trunk | a.hump, kBodyZone) << zoneOf(legBox(a), kLegZone);
+  if (!b.headgear.isEmpty()) zones << zoneOf(b.headgear, kHeadgearZone);
+  zones << zoneOf(b.vital, kVitalZone) << zoneOf(b.head, kHeadZone) << zoneOf(b.gut, kGutZone)
+        << zoneOf(b.body, kBodyZone) << zoneOf(b.legs, kLegZone);
   HitRecord record{};
   for (size_t i = 0; i < record.size(); ++i) record[i] = zones[qsizetype(i)];
   return record;

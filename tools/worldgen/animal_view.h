@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// An animal as the world's pictures show it: its photograph where there is a true one, its
+// drawing otherwise, standing on its shadow in the haze of its range.
+#pragma once
+
+#include "tools/worldgen/animal_figure.h"
+
+#include <QPainter>
+
+namespace worldgen {
+
+void drawAnimal(QPainter& p, int animal, const Pose& pose);
+// The zones of exactly what drawAnimal draws, most telling first.
+HitRecord hitZonesOf(int animal, const Pose& pose);
+
+}  // namespace worldgen
