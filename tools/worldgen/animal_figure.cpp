@@ -125,6 +125,15 @@ void drawTrunk(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& p
   }
   p.setBrush(l.coat);
   p.drawPolygon(a.neck);
+  if (l.marking == Marking::BackStripes) {  // two white bands from the crown along the back
+    p.setBrush(l.rump);
+    const QRectF t = a.trunk;
+    p.drawChord(QRectF(t.left(), t.top(), t.width(), t.height() * 0.7), 15 * 16, 150 * 16);
+    p.setBrush(l.coat);
+    p.drawChord(
+        QRectF(t.left() + t.width() * 0.15, t.top() + t.height() * 0.12, t.width() * 0.7, t.height() * 0.5),
+        30 * 16, 120 * 16);
+  }
 }
 
 void drawHeadgear(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& pose) {
@@ -172,8 +181,18 @@ void drawHeadgear(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose
 
 void drawHead(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& pose) {
   p.setPen(Qt::NoPen);
-  p.setBrush(l.coat.darker(105));
+  p.setBrush(l.marking == Marking::WhiteHead ? l.rump : l.coat.darker(105));
   p.drawEllipse(a.head);
+  if (l.marking == Marking::WhiteHead) p.drawPolygon(a.neck);
+  if (l.marking == Marking::BackStripes) {
+    p.setBrush(l.rump);  // the white blaze up the face
+    p.drawEllipse(box(a.head.center() + QPointF(0, -a.head.height() * 0.3), a.head.width() * 0.7,
+                      a.head.height() * 0.2));
+  }
+  if (l.marking == Marking::Mask) {
+    p.setBrush(QColor(0x151515));  // the bandit's mask across the eyes
+    p.drawEllipse(box(a.head.center(), a.head.width() * 0.6, a.head.height() * 0.35));
+  }
   const double h = a.head.height();
   const QPointF back(a.head.center().x() - pose.facing * a.head.width() * 0.3, a.head.top());
   if (!isBird(l)) {  // ears

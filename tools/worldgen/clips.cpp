@@ -150,7 +150,7 @@ Pose escapePose(int animal, int k, int n) {
   Pose pose = standingPose(animal, k);
   const double body = bodyPixels(animal, pose);
   pose.facing = -pose.facing;
-  const double run = n * n * 0.012 * body + n * 0.03 * body;
+  const double run = n * 0.06 * body + n * n * 0.0025 * body;
   pose.x += pose.facing * run;
   pose.swing = 1;
   pose.stride = run / (1.6 * body);
@@ -164,8 +164,8 @@ Pose escapePose(int animal, int k, int n) {
 Pose hitPose(int animal, int k, int n, bool arrow) {
   Pose pose = standingPose(animal, k);
   const double body = bodyPixels(animal, pose);
-  const int run = arrow ? 14 : 5;
-  const double moved = body * 0.06 * std::min(n, run) + body * 0.02 * std::clamp(n - run, 0, 8);
+  const int run = arrow ? 10 : 3;
+  const double moved = body * 0.035 * std::min(n, run) + body * 0.012 * std::clamp(n - run, 0, 8);
   pose.x += pose.facing * moved;
   pose.stride = moved / (0.9 * body);
   pose.swing = n < run ? 1 : n < run + 8 ? 0.4 : 0;

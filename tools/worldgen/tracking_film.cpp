@@ -59,7 +59,7 @@ void paintGround(QPainter& p, QChar world, double walked) {
 // A cloven print: two halves pressed into the ground.
 void print(QPainter& p, const Spot& s, QChar world) {
   p.setBrush(snowy(world) ? QColor(120, 140, 170, 190) : QColor(40, 26, 14, 200));
-  const double w = s.scale * 0.035, h = s.scale * 0.035;
+  const double w = s.scale * 0.055, h = s.scale * 0.06;
   p.drawEllipse(s.at + QPointF(-w * 0.7, 0), w * 0.6, h);
   p.drawEllipse(s.at + QPointF(w * 0.7, 0), w * 0.6, h);
 }
