@@ -60,6 +60,13 @@ void drawAnimal(QPainter& p, int animal, const Pose& pose) {
   p.drawImage(0, 0, layer);
 }
 
+QSizeF animalExtent(int animal) {
+  if (const AnimalPhoto* photo = photoOf(animal))
+    return {photo->metres, photo->metres * photo->image.height() / photo->image.width()};
+  const AnimalLook& l = lookOf(animal);
+  return {l.metres * 1.3, l.metres * (l.legLength + l.bodyHeight + l.neckLength * 0.6 + 0.2)};
+}
+
 HitRecord hitZonesOf(int animal, const Pose& pose) {
   if (const AnimalPhoto* photo = photoOf(animal)) return photoHitZones(*photo, pose);
   return hitZonesOf(lookOf(animal), pose);

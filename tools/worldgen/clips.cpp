@@ -56,19 +56,11 @@ double bodyPixels(int animal, const Pose& pose) {
   return (photo ? photo->metres : lookOf(animal).metres) * pose.pixelsPerMetre;
 }
 
-// The animal's width and height in metres, as drawn or photographed.
-QSizeF extentOf(int animal) {
-  if (const AnimalPhoto* photo = photoOf(animal))
-    return {photo->metres, photo->metres * photo->image.height() / photo->image.width()};
-  const AnimalLook& l = lookOf(animal);
-  return {l.metres * 1.3, l.metres * (l.legLength + l.bodyHeight + l.neckLength * 0.6 + 0.2)};
-}
-
 // Size by range as a 9x scope shows it, but never wider than two thirds of the picture nor
 // taller than its ground leaves room for.
 Pose basePose(int animal, int k) {
   Pose pose;
-  const QSizeF extent = extentOf(animal);
+  const QSizeF extent = animalExtent(animal);
   pose.ground = 222 - (k - 1) * 18;
   pose.pixelsPerMetre =
       std::min({4800 / clipYards(k), 210 / extent.width(), (pose.ground - 12) / extent.height()});

@@ -30,7 +30,8 @@ QImage trophyPhoto(QChar world, const QString& clip, int species) {
   p.setRenderHint(QPainter::Antialiasing);
   StableRandom rnd(clip);
   Pose pose;
-  pose.pixelsPerMetre = std::clamp(170 / lookOf(species).metres, 20.0, 95.0);
+  const QSizeF extent = animalExtent(species);
+  pose.pixelsPerMetre = std::min(230 / extent.width(), 190 / extent.height());
   pose.x = rnd.between(140, 180);
   pose.ground = 222;
   pose.facing = rnd.below(2) ? 1 : -1;
@@ -55,8 +56,9 @@ QImage recordBookPicture(const Content& c, int species) {
   QImage image = paintLandscape({home, QStringLiteral("trophy"), 320, 240, 0.42, false});
   QPainter p(&image);
   Pose pose;
-  pose.pixelsPerMetre = std::clamp(190 / lookOf(species).metres, 25.0, 100.0);
   pose.ground = 225;
+  const QSizeF extent = animalExtent(species);
+  pose.pixelsPerMetre = std::min(250 / extent.width(), 200 / extent.height());
   pose.headLift = 1;
   drawAnimal(p, species, pose);
   return image;
