@@ -6,6 +6,7 @@
 #include "platform/panorama/panorama_manifest.h"
 #include "shell/names.h"
 #include "tools/worldgen/animal_figure.h"
+#include "tools/worldgen/animal_view.h"
 #include "tools/worldgen/clip_writer.h"
 #include "tools/worldgen/clips.h"
 #include "tools/worldgen/content.h"
@@ -65,7 +66,7 @@ QImage animalAlone(int animal, const Pose& pose) {
   QImage mask(kClipWidth, kClipHeight, QImage::Format_ARGB32);
   mask.fill(Qt::transparent);
   QPainter p(&mask);
-  drawAnimal(p, lookOf(animal), pose);
+  drawAnimal(p, animal, pose);
   return mask;
 }
 

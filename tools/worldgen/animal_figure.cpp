@@ -87,11 +87,24 @@ Anatomy anatomyOf(const AnimalLook& l, const Pose& pose) {
 
 namespace {
 
-void drawLegs(QPainter& p, const Anatomy& a, const AnimalLook& l) {
-  p.setPen(QPen(l.legs, a.legWidth, Qt::SolidLine, Qt::RoundCap));
-  for (const QLineF& leg : a.legs) p.drawLine(leg);
-  p.setPen(QPen(l.legs.darker(160), a.legWidth * 0.8, Qt::SolidLine, Qt::RoundCap));
-  for (const QLineF& leg : a.legs) p.drawPoint(leg.p2());
+// A leg as a tapered limb bent at the knee (forelegs) or hock (hind legs), with a dark hoof.
+QPolygonF limb(const QLineF& leg, double width, bool hind, int facing) {
+  const QPointF hip = leg.p1(), foot = leg.p2();
+  const QPointF knee = hip + (foot - hip) * 0.48 + QPointF((hind ? -1 : 0.4) * facing * width * 0.9, 0);
+  const double top = width * (hind ? 1.6 : 1.3), mid = width * 0.75, low = width * 0.5;
+  return QPolygonF({hip - QPointF(top, 0), knee - QPointF(mid, 0), foot - QPointF(low, 0),
+                    foot + QPointF(low, 0), knee + QPointF(mid, 0), hip + QPointF(top, 0)});
+}
+
+void drawLegs(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& pose) {
+  p.setPen(Qt::NoPen);
+  for (size_t i = 0; i < a.legs.size(); ++i) {
+    // The far legs are in the body's shade.
+    p.setBrush(i % 2 ? l.legs.darker(125) : l.legs);
+    p.drawPolygon(limb(a.legs[i], a.legWidth / 2, i >= 2, pose.facing));
+  }
+  p.setBrush(l.legs.darker(170));
+  for (const QLineF& leg : a.legs) p.drawEllipse(leg.p2(), a.legWidth * 0.35, a.legWidth * 0.25);
 }
 
 void drawTail(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& pose) {
@@ -108,6 +121,21 @@ void drawTail(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& po
   p.drawLine(a.tailBase, end);
 }
 
+// The barrel of the body: a level back, the chest deeper than the tucked-up flank.
+QPainterPath trunkOutline(const QRectF& t, int facing) {
+  auto at = [&](double fx, double fy) {  // fx from rump (0) to chest (1)
+    return QPointF(facing > 0 ? t.left() + fx * t.width() : t.right() - fx * t.width(),
+                   t.top() + fy * t.height());
+  };
+  QPainterPath path(at(0.02, 0.5));
+  path.cubicTo(at(0.0, 0.1), at(0.2, 0.0), at(0.5, 0.02));
+  path.cubicTo(at(0.8, 0.0), at(1.0, 0.1), at(1.0, 0.5));
+  path.cubicTo(at(1.0, 0.95), at(0.8, 1.02), at(0.6, 0.98));
+  path.cubicTo(at(0.4, 0.9), at(0.25, 0.9), at(0.1, 0.85));
+  path.cubicTo(at(0.03, 0.8), at(0.0, 0.65), at(0.02, 0.5));
+  return path;
+}
+
 void drawTrunk(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& pose) {
   QLinearGradient shade(a.trunk.topLeft(), a.trunk.bottomLeft());
   shade.setColorAt(0, l.coat.lighter(112));
@@ -115,7 +143,7 @@ void drawTrunk(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& p
   shade.setColorAt(1, l.belly);
   p.setPen(Qt::NoPen);
   p.setBrush(shade);
-  p.drawEllipse(a.trunk);
+  p.drawPath(trunkOutline(a.trunk, pose.facing));
   if (!a.hump.isEmpty()) p.drawEllipse(a.hump);
   if (l.rump != l.coat) {
     p.setBrush(l.rump);
@@ -125,6 +153,15 @@ void drawTrunk(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& p
   }
   p.setBrush(l.coat);
   p.drawPolygon(a.neck);
+  if (l.marking == Marking::BackStripes) {  // two white bands from the crown along the back
+    p.setBrush(l.rump);
+    const QRectF t = a.trunk;
+    p.drawChord(QRectF(t.left(), t.top(), t.width(), t.height() * 0.7), 15 * 16, 150 * 16);
+    p.setBrush(l.coat);
+    p.drawChord(
+        QRectF(t.left() + t.width() * 0.15, t.top() + t.height() * 0.12, t.width() * 0.7, t.height() * 0.5),
+        30 * 16, 120 * 16);
+  }
 }
 
 void drawHeadgear(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& pose) {
@@ -172,8 +209,18 @@ void drawHeadgear(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose
 
 void drawHead(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& pose) {
   p.setPen(Qt::NoPen);
-  p.setBrush(l.coat.darker(105));
+  p.setBrush(l.marking == Marking::WhiteHead ? l.rump : l.coat.darker(105));
   p.drawEllipse(a.head);
+  if (l.marking == Marking::WhiteHead) p.drawPolygon(a.neck);
+  if (l.marking == Marking::BackStripes) {
+    p.setBrush(l.rump);  // the white blaze up the face
+    p.drawEllipse(box(a.head.center() + QPointF(0, -a.head.height() * 0.3), a.head.width() * 0.7,
+                      a.head.height() * 0.2));
+  }
+  if (l.marking == Marking::Mask) {
+    p.setBrush(QColor(0x151515));  // the bandit's mask across the eyes
+    p.drawEllipse(box(a.head.center(), a.head.width() * 0.6, a.head.height() * 0.35));
+  }
   const double h = a.head.height();
   const QPointF back(a.head.center().x() - pose.facing * a.head.width() * 0.3, a.head.top());
   if (!isBird(l)) {  // ears
@@ -224,7 +271,7 @@ void drawAnimal(QPainter& p, const AnimalLook& look, const Pose& pose) {
     p.translate(-pose.x, -pose.ground);
   }
   drawTail(p, a, look, pose);
-  drawLegs(p, a, look);
+  drawLegs(p, a, look, pose);
   drawTrunk(p, a, look, pose);
   drawHead(p, a, look, pose);
   drawHeadgear(p, a, look, pose);
@@ -233,10 +280,14 @@ void drawAnimal(QPainter& p, const AnimalLook& look, const Pose& pose) {
 
 HitRecord hitZonesOf(const AnimalLook& look, const Pose& pose) {
   const Anatomy a = anatomyOf(look, pose);
+  return zoneRecord({a.headgear, a.vital, a.head, a.gut, a.trunk | a.hump, legBox(a)});
+}
+
+HitRecord zoneRecord(const ZoneBoxes& b) {
   QList<HitZone> zones;
-  if (!a.headgear.isEmpty()) zones << zoneOf(a.headgear, kHeadgearZone);
-  zones << zoneOf(a.vital, kVitalZone) << zoneOf(a.head, kHeadZone) << zoneOf(a.gut, kGutZone)
-        << zoneOf(a.trunk | a.hump, kBodyZone) << zoneOf(legBox(a), kLegZone);
+  if (!b.headgear.isEmpty()) zones << zoneOf(b.headgear, kHeadgearZone);
+  zones << zoneOf(b.vital, kVitalZone) << zoneOf(b.head, kHeadZone) << zoneOf(b.gut, kGutZone)
+        << zoneOf(b.body, kBodyZone) << zoneOf(b.legs, kLegZone);
   HitRecord record{};
   for (size_t i = 0; i < record.size(); ++i) record[i] = zones[qsizetype(i)];
   return record;

@@ -25,6 +25,7 @@ struct Pose {
   double headLift = 0;  // -1 grazing, 0 level, 1 alert
   double tilt = 0;      // degrees the body leans, for a fall
   double legFold = 0;   // 0 standing .. 1 legs folded under, lying down
+  double haze = 0;      // 0 near .. 1 lost in the distance's haze
 };
 
 struct Anatomy {
@@ -56,5 +57,11 @@ Anatomy anatomyOf(const AnimalLook& look, const Pose& pose);
 void drawAnimal(QPainter& p, const AnimalLook& look, const Pose& pose);
 // Most telling zone first, as the shot tests them in order.
 HitRecord hitZonesOf(const AnimalLook& look, const Pose& pose);
+
+// The parts of an animal in frame pixels, as one record; headgear may be empty.
+struct ZoneBoxes {
+  QRectF headgear, vital, head, gut, body, legs;
+};
+HitRecord zoneRecord(const ZoneBoxes& boxes);
 
 }  // namespace worldgen

@@ -19,8 +19,8 @@ AnimalLook look(P plan, double metres, double bodyH, double legs, double neck, d
           gear, beard};
 }
 
-const std::array<AnimalLook, 42>& looks() {
-  static const std::array<AnimalLook, 42> table = {
+std::array<AnimalLook, 42> authoredLooks() {
+  std::array<AnimalLook, 42> table = {
       look(P::Hoofed, 1.6, 0.45, 0.55, 0.25, 0.24, 0, 0.06, 0x8a7560, 0xcfc2ac, 0xf0ece0, 0x6e5c4a, H::Curl),
       look(P::Hoofed, 3.2, 0.55, 0.38, 0.08, 0.26, 0.32, 0.14, 0x4a3222, 0x3a271a, 0x4a3222, 0x2e1f15,
            H::ShortHorns, true),
@@ -70,6 +70,14 @@ const std::array<AnimalLook, 42>& looks() {
       look(P::WaderBird, 1.4, 0.45, 0.95, 0.6, 0.2, 0, 0.12, 0xfafaf8, 0xf0f0ec, 0xfafaf8, 0x1a1a1a),
       look(P::Small, 0.9, 0.3, 0.2, 0.1, 0.2, 0, 0.45, 0x2e241c, 0x241c16, 0x2e241c, 0x1e1812),
   };
+  table[19].marking = Marking::BackStripes;  // striped skunk
+  table[26].marking = Marking::WhiteHead;    // bald eagle
+  table[16].marking = Marking::Mask;         // raccoon
+  return table;
+}
+
+const std::array<AnimalLook, 42>& looks() {
+  static const std::array<AnimalLook, 42> table = authoredLooks();
   return table;
 }
 

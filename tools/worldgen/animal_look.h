@@ -8,6 +8,8 @@
 namespace worldgen {
 
 enum class BodyPlan { Hoofed, Bear, Cat, Dog, Small, Bird, WaderBird };
+// Markings a species is known by, beyond its coat, belly and rump.
+enum class Marking { None, WhiteHead, BackStripes, Mask };
 enum class Headgear { None, Antlers, Palmate, CaribouRack, Curl, Spikes, Prongs, ShortHorns };
 
 struct AnimalLook {
@@ -25,6 +27,7 @@ struct AnimalLook {
   QColor legs;
   Headgear headgear = Headgear::None;
   bool beard = false;  // turkey's beard, goat's and bison's chin hair
+  Marking marking = Marking::None;
 };
 
 // Animal 1..42.

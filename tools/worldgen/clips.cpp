@@ -3,10 +3,13 @@
 #include "tools/worldgen/two_painters.h"
 
 #include "shell/names.h"
+#include "tools/worldgen/animal_photos.h"
+#include "tools/worldgen/animal_view.h"
 #include "tools/worldgen/clip_writer.h"
 #include "tools/worldgen/landscape.h"
 #include "tools/worldgen/records.h"
 #include "tools/worldgen/tables.h"
+#include "tools/worldgen/tracking_film.h"
 #include "tools/worldgen/world_layout.h"
 
 #include <QFile>
@@ -27,30 +30,70 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kEscapeFrames = 30;
-constexpr int kHitFrames = 27;
+constexpr int kEscapeFrames = 36;
+constexpr int kHitFrames = 42;
 constexpr int kPassFrames = 45;
 constexpr int kFilmFrames = 60;
-constexpr double kGround = 205;
 constexpr int kSliceMs = 360;
-
-double pixelsPerMetre(const AnimalLook& look) {
-  return std::clamp(95 / look.metres, 22.0, 75.0);
-}
+// The encounter's acts, in pictures: out of cover, broadside, and on its way.
+constexpr int kArrive = 60;
+constexpr int kLeave = 205;
+constexpr int kStandFrame = 130;  // a typical moment for a shot, where escapes and hits begin
 
 double smooth(double t) {
   t = std::clamp(t, 0.0, 1.0);
   return t * t * (3 - 2 * t);
 }
 
+// The k-th clip of a species is seen at close, middle or long range.
+double clipYards(int k) {
+  constexpr double yards[] = {45, 45, 110, 190};
+  return yards[std::clamp(k, 0, 3)];
+}
+
+double bodyPixels(int animal, const Pose& pose) {
+  const AnimalPhoto* photo = photoOf(animal);
+  return (photo ? photo->metres : lookOf(animal).metres) * pose.pixelsPerMetre;
+}
+
+// Size by range as a 9x scope shows it, but never wider than two thirds of the picture nor
+// taller than its ground leaves room for.
 Pose basePose(int animal, int k) {
   Pose pose;
-  pose.pixelsPerMetre = pixelsPerMetre(lookOf(animal));
+  const QSizeF extent = animalExtent(animal);
+  pose.ground = 222 - (k - 1) * 18;
+  pose.pixelsPerMetre =
+      std::min({4800 / clipYards(k), 210 / extent.width(), (pose.ground - 12) / extent.height()});
   pose.facing = k % 2 ? 1 : -1;
-  pose.ground = kGround - k * 6;
+  pose.haze = clipYards(k) / 900;
   return pose;
 }
 
+// Where the animal's middle is in picture n: in from beyond the edge, a step while it feeds,
+// and out past the other edge.
+double encounterX(int animal, int k, double n) {
+  const Pose base = basePose(animal, k);
+  const double body = bodyPixels(animal, base), f = base.facing;
+  const double stand = 160 + f * (k - 2) * 18;
+  const double outside = kClipWidth / 2.0 + body * 0.8 + 10;  // head and tail reach past the middle
+  if (n < kArrive) {
+    const double t = n / kArrive;
+    return stand - f * outside * (1 - t) * (1 - t);  // slows as it comes clear of cover
+  }
+  const double step = smooth((n - 112) / 16.0) * body * 0.18;
+  if (n < kLeave) return stand + f * step;
+  const double t = (n - kLeave) / double(kEncounterFrames - kLeave);
+  return stand + f * (step + outside * t * (0.6 + 0.4 * t));
+}
+
+double headAt(int n) {
+  if (n < kArrive + 6) return 0;
+  if (n < 100) return -1;                              // feeds
+  if (n < 128) return std::min(1.0, (n - 100) / 6.0);  // lifts its head, looks, steps on
+  if (n < 165) return -smooth((n - 128) / 6.0);        // feeds again
+  if (n < kLeave) return std::min(1.0, (n - 165) / 6.0) * (n < 190 ? 1 : 0.3);
+  return 0.2;
+}
 // Background pictures, one per world and clip number, painted once.
 class Backdrops {
  public:
@@ -81,64 +124,59 @@ using Job = std::function<void()>;
 
 void writeAnimalClip(const fs::path& file, const QImage& backdrop, int animal, int frames,
                      const PoseAt& poseAt) {
-  const AnimalLook& look = lookOf(animal);
   writeClip(file, frames, [&](QImage& picture, int n) {
     picture = backdrop.copy();
     QPainter p(&picture);
-    drawAnimal(p, look, poseAt(n));
+    drawAnimal(p, animal, poseAt(n));
   });
 }
 
-Pose escapePose(int animal, int k, int n) {
-  Pose pose = encounterPose(animal, k, kEncounterFrames - 1);
-  pose.facing = -pose.facing;  // turns and bolts back the way it came
-  pose.swing = 1;
-  pose.stride = n * 0.16;
-  pose.headLift = 0.3;
-  pose.x += pose.facing * (n * n * 0.35 + n * 3);
-  pose.ground -= std::abs(std::sin(n * 0.5)) * 6;  // bounding
+Pose standingPose(int animal, int k) {
+  Pose pose = encounterPose(animal, k, kStandFrame);
+  pose.headLift = 1;
   return pose;
 }
 
+// Turns and bounds off the way it came, gathering speed.
+Pose escapePose(int animal, int k, int n) {
+  Pose pose = standingPose(animal, k);
+  const double body = bodyPixels(animal, pose);
+  pose.facing = -pose.facing;
+  const double run = n * 0.06 * body + n * n * 0.0025 * body;
+  pose.x += pose.facing * run;
+  pose.swing = 1;
+  pose.stride = run / (1.6 * body);
+  pose.ground -= std::abs(std::sin(pose.stride * 3.14159265)) * 0.12 * body;  // bounds
+  pose.tilt = -6 * std::cos(pose.stride * 6.2831853);
+  pose.headLift = 0.4;
+  return pose;
+}
+
+// Hit: a lunge or a short run, a stagger, the forelegs buckle, then it settles and lies still.
 Pose hitPose(int animal, int k, int n, bool arrow) {
-  Pose pose = encounterPose(animal, k, kEncounterFrames - 1);
-  const int run = arrow ? 10 : 4;  // an arrowed animal runs a few bounds before it drops
-  pose.swing = n < run ? 1 : 0;
-  pose.stride = n * 0.16;
-  pose.x += pose.facing * std::min(n, run) * 6;
-  const double fall = n < run ? 0 : smooth((n - run) / 8.0);  // legs give way, it rolls and lies still
-  pose.tilt = n < run ? -8 : 14 * fall;
-  pose.legFold = fall;
-  pose.headLift = -fall;
+  Pose pose = standingPose(animal, k);
+  const double body = bodyPixels(animal, pose);
+  const int run = arrow ? 10 : 3;
+  const double moved = body * 0.035 * std::min(n, run) + body * 0.012 * std::clamp(n - run, 0, 8);
+  pose.x += pose.facing * moved;
+  pose.stride = moved / (0.9 * body);
+  pose.swing = n < run ? 1 : n < run + 8 ? 0.4 : 0;
+  const double buckle = smooth((n - run - 6) / 6.0), settle = smooth((n - run - 12) / 8.0);
+  const double stagger = n < run + 8 ? std::sin(n * 1.3) * 7 : 0;
+  pose.tilt = stagger + 14 * buckle - 11 * settle;
+  pose.legFold = 0.55 * buckle + 0.45 * settle;
+  pose.headLift = n < run ? 0 : -smooth((n - run) / 14.0);
   return pose;
 }
 
 Pose passPose(int animal, int n) {
   Pose pose = basePose(animal, 1);
-  pose.swing = 0.5;
-  pose.stride = n * 0.08;
-  pose.x = -40 + n * 400.0 / kPassFrames;
+  pose.pixelsPerMetre = std::min(pose.pixelsPerMetre, 150 / lookOf(animal).metres);
+  pose.swing = 0.6;
+  pose.x = -60 + n * 440.0 / kPassFrames;
+  pose.stride = pose.x / (0.9 * bodyPixels(animal, pose));
   pose.headLift = std::sin(n * 0.2) * 0.3;
   return pose;
-}
-
-// Hoof prints in the ground, panning by; blood drops on the second film.
-void paintTracks(QImage& picture, const QImage& backdrop, int n, bool blood) {
-  picture = backdrop.copy();
-  QPainter p(&picture);
-  p.setRenderHint(QPainter::Antialiasing);
-  p.setPen(Qt::NoPen);
-  for (int i = -2; i < 12; ++i) {
-    const double x = i * 34 - std::fmod(n * 3.0, 68.0) + (i % 2) * 10;
-    const double y = 170 + (i % 2) * 18;
-    p.setBrush(QColor(60, 45, 35, 170));
-    p.drawEllipse(QRectF(x, y, 7, 11));
-    p.drawEllipse(QRectF(x + 8, y, 7, 11));
-    if (blood && i % 3 == 0) {
-      p.setBrush(QColor(150, 10, 10));
-      p.drawEllipse(QRectF(x + 20, y + 14, 4, 3));
-    }
-  }
 }
 
 // The area film: a slow pan across the world under its name.
@@ -206,7 +244,9 @@ class ClipSet {
     for (int t = 0; t < 2; ++t) {
       const fs::path path = file("art", letter + "trak" + QString::number(t), ".avi");
       jobs_.push_back([=] {
-        writeClip(path, kPassFrames, [&](QImage& picture, int n) { paintTracks(picture, back, n, t == 1); });
+        writeClip(path, kPassFrames, [&, world = w.letter](QImage& picture, int n) {
+          paintTrackingFilm(picture, back, world, n, t == 1);
+        });
       });
     }
     const QImage wide =
@@ -243,11 +283,12 @@ int recordOfFrame(int n) {
 }
 
 // The part of a zone the animal covers in every picture of a slice, so a click inside it hits
-// that part whichever picture is on screen; the middle picture's zone when they share none.
+// that part whichever picture is on screen; nothing to hit when the part moves too far.
 HitZone commonZone(const HitZone& a, const HitZone& b) {
   const HitZone both{std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
                      std::min(a.bottom, b.bottom), a.code};
-  return both.left <= both.right && both.top <= both.bottom ? both : a;
+  if (both.left <= both.right && both.top <= both.bottom) return both;
+  return {-10, -10, -10, -10, a.code};
 }
 
 HitRecord sliceRecord(int animal, int k, int record) {
@@ -255,9 +296,9 @@ HitRecord sliceRecord(int animal, int k, int record) {
   for (int n = 0; n < kEncounterFrames; ++n)
     if (recordOfFrame(n) == record) frames << n;
   if (frames.isEmpty()) frames << kEncounterFrames - 1;
-  HitRecord out = hitZonesOf(lookOf(animal), encounterPose(animal, k, frames[frames.size() / 2]));
+  HitRecord out = hitZonesOf(animal, encounterPose(animal, k, frames[frames.size() / 2]));
   for (const int n : frames) {
-    const HitRecord zones = hitZonesOf(lookOf(animal), encounterPose(animal, k, n));
+    const HitRecord zones = hitZonesOf(animal, encounterPose(animal, k, n));
     for (size_t z = 0; z < out.size(); ++z) out[z] = commonZone(out[z], zones[z]);
   }
   return out;
@@ -277,12 +318,12 @@ QImage clipBackdrop(QChar world, int k) {
 
 Pose encounterPose(int animal, int k, int n) {
   Pose pose = basePose(animal, k);
-  const double walkIn = smooth(n / 30.0);
-  pose.x = 160 - pose.facing * (110 - 90 * walkIn) + pose.facing * k * 12;
-  pose.swing = n < 30 ? 0.5 : 0;
-  pose.stride = std::min(n, 30) * 0.07;
-  // Walks in, grazes, then lifts its head and looks about.
-  pose.headLift = n < 30 ? 0 : n < 52 ? -1 : std::min(1.0, (n - 52) / 4.0);
+  pose.x = encounterX(animal, k, n);
+  const double body = bodyPixels(animal, pose);
+  pose.stride = std::abs(pose.x - encounterX(animal, k, 0)) / (0.9 * body);
+  // Legs swing with the ground covered, so the feet do not slide.
+  pose.swing = std::clamp(std::abs(encounterX(animal, k, n + 1) - pose.x) / (0.02 * body), 0.0, 0.8);
+  pose.headLift = headAt(n);
   return pose;
 }
 

@@ -13,7 +13,7 @@
 
 namespace worldgen {
 
-inline constexpr int kEncounterFrames = 75;  // five seconds
+inline constexpr int kEncounterFrames = 255;  // seventeen seconds
 
 // The scenery behind the k-th clips of a world.
 QImage clipBackdrop(QChar world, int k);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // worldgen: writes the sample world into a folder, or lists the media files it refers to.
+#include "tools/worldgen/animal_photos.h"
 #include "tools/worldgen/content.h"
 #include "tools/worldgen/media_refs.h"
 #include "tools/worldgen/terminal_progress.h"
@@ -42,6 +43,9 @@ int main(int argc, char** argv) {
   try {
     const worldgen::Content content = worldgen::loadContent(contentFolder);
     if (args[0] == QStringLiteral("--list-media")) return listMedia(content);
+    if (!worldgen::animalPhotosFound())
+      std::fprintf(stderr, "worldgen: no animal photographs in %s; every animal is drawn\n",
+                   worldgen::animalPhotoFolder().c_str());
     const std::filesystem::path root = args[0].toStdString();
     worldgen::TerminalProgress progress(root);
     worldgen::writeWorld(content, root, worldgen::WorldParts::Everything,

@@ -2,7 +2,6 @@
 #include "tools/worldgen/pictures.h"
 
 #include "shell/names.h"
-#include "tools/worldgen/animal_figure.h"
 #include "tools/worldgen/item_pictures.h"
 #include "tools/worldgen/landscape.h"
 #include "tools/worldgen/lodge_screens.h"
@@ -115,18 +114,6 @@ QImage unavailableTag() {
   return image;
 }
 
-QImage trophyPicture(int species) {
-  const QChar world = speciesNameOf(species).at(0) < u'M' ? QChar(u'B') : QChar(u'T');
-  QImage image = paintLandscape({world, QStringLiteral("trophy"), 320, 240, 0.42, false});
-  QPainter p(&image);
-  Pose pose;
-  pose.pixelsPerMetre = std::clamp(105 / lookOf(species).metres, 25.0, 80.0);
-  pose.ground = 215;
-  pose.headLift = 1;
-  drawAnimal(p, lookOf(species), pose);
-  return image;
-}
-
 }  // namespace
 
 void writePictures(const Content& c, const fs::path& root) {
@@ -143,7 +130,7 @@ void writePictures(const Content& c, const fs::path& root) {
   }
   for (int s = 1; s <= kSpeciesCount; ++s) {
     save(tagPicture(s), root / "licnpics" / ("tag" + std::to_string(s) + ".bmp"));
-    save(trophyPicture(s), root / "art" / ("Trophy" + std::to_string(s) + ".bmp"));
+    save(recordBookPicture(c, s), root / "art" / ("Trophy" + std::to_string(s) + ".bmp"));
   }
   save(filledTag(), root / "licnpics" / "ftag.bmp");
   save(unavailableTag(), root / "licnpics" / "natag.bmp");

@@ -56,25 +56,60 @@ QBrush walnut(double left, double right) {
 }
 
 // Hard edges throughout: a blended edge would leave a pink fringe round the see-through colour.
+// The eyepiece fills the picture's height above the rifle: a wide glass with a duplex reticle,
+// thick posts from the rim that lead the eye in to the fine cross at the aim.
 void scope(QPainter& p, QPointF aim) {
-  p.setBrush(steel(aim.x() - 34, aim.x() + 34));
+  constexpr double kGlass = 64, kRim = 76, kGap = 16;
+  p.setBrush(steel(aim.x() - 40, aim.x() + 40));
   p.setPen(Qt::NoPen);
-  p.drawRect(QRectF(aim.x() - 34, aim.y() + 52, 68, 200));  // the rifle beneath
-  p.setBrush(walnut(aim.x() - 60, aim.x() + 60));
-  p.drawPolygon(QPolygonF({QPointF(aim.x() - 60, 240), QPointF(aim.x() - 30, aim.y() + 110),
-                           QPointF(aim.x() + 30, aim.y() + 110), QPointF(aim.x() + 60, 240)}));
-  p.setBrush(steel(aim.x() - 58, aim.x() + 58));
-  p.drawEllipse(aim, 58, 58);
+  p.drawRect(QRectF(aim.x() - 40, aim.y() + 60, 80, 200));  // the rifle beneath
+  p.setBrush(walnut(aim.x() - 70, aim.x() + 70));
+  p.drawPolygon(QPolygonF({QPointF(aim.x() - 70, 240), QPointF(aim.x() - 34, aim.y() + 120),
+                           QPointF(aim.x() + 34, aim.y() + 120), QPointF(aim.x() + 70, 240)}));
+  p.setBrush(steel(aim.x() - kRim, aim.x() + kRim));
+  p.drawEllipse(aim, kRim, kRim);
+  p.setBrush(QColor(0x050505));
+  p.drawEllipse(aim, kGlass + 3, kGlass + 3);
   p.setBrush(QColor(kKeyColour));  // the game shows through the glass
-  p.drawEllipse(aim, 50, 50);
-  p.setPen(QPen(QColor(0x050505), 2));
-  p.drawLine(aim - QPointF(50, 0), aim - QPointF(6, 0));
-  p.drawLine(aim + QPointF(6, 0), aim + QPointF(50, 0));
-  p.drawLine(aim - QPointF(0, 50), aim - QPointF(0, 6));
-  p.drawLine(aim + QPointF(0, 6), aim + QPointF(0, 50));
+  p.drawEllipse(aim, kGlass, kGlass);
+  p.setBrush(QColor(0x050505));
+  for (const int side : {-1, 1}) {  // the heavy posts, left, right and below
+    p.drawRect(QRectF(side > 0 ? aim.x() + kGap * 2 : aim.x() - kGlass - 1, aim.y() - 2.5,
+                      kGlass - kGap * 2 + 1, 5));
+  }
+  p.drawRect(QRectF(aim.x() - 2.5, aim.y() + kGap * 2, 5, kGlass - kGap * 2 + 1));
+  p.drawRect(QRectF(aim.x() - 1.5, aim.y() - kGlass, 3, kGlass - kGap * 2));
   p.setPen(QPen(QColor(0x050505), 1));
-  p.drawLine(aim - QPointF(6, 0), aim + QPointF(6, 0));
-  p.drawLine(aim - QPointF(0, 6), aim + QPointF(0, 6));
+  p.drawLine(aim - QPointF(kGap * 2, 0), aim + QPointF(kGap * 2, 0));
+  p.drawLine(aim - QPointF(0, kGap * 2), aim + QPointF(0, kGap * 2));
+}
+
+// A handgun's square post in the rear sight's notch, post top level with the blade at the aim.
+void postAndNotch(QPainter& p, QPointF aim) {
+  p.setBrush(QColor(0x111111));
+  p.drawRect(QRectF(aim.x() - 4, aim.y(), 8, 34));
+  p.setBrush(QColor(0xf0f0e8));  // a white dot on the post catches the eye
+  p.drawEllipse(aim + QPointF(0, 6), 2, 2);
+  p.setBrush(QColor(0x151515));
+  p.drawRect(QRectF(aim.x() - 70, aim.y(), 60, 26));
+  p.drawRect(QRectF(aim.x() + 10, aim.y(), 60, 26));
+  p.drawRect(QRectF(aim.x() - 70, aim.y() + 26, 140, 14));
+}
+
+// A shotgun's brass bead at the end of a ventilated rib.
+void beadOnRib(QPainter& p, QPointF aim) {
+  p.setBrush(QColor(0x2a2c32));
+  p.drawPolygon(QPolygonF({QPointF(aim.x() - 3, aim.y() + 5), QPointF(aim.x() + 3, aim.y() + 5),
+                           QPointF(aim.x() + 12, 240), QPointF(aim.x() - 12, 240)}));
+  p.setBrush(QColor(0x0c0d10));
+  for (int i = 1; i < 9; ++i) {  // the rib's vents
+    const double y = aim.y() + 8 + i * i * 2.2;
+    p.drawRect(QRectF(aim.x() - 1 - i * 0.8, y, 2 + i * 1.6, 1 + i * 0.3));
+  }
+  p.setBrush(QColor(0xd8b040));
+  p.drawEllipse(aim + QPointF(0, 2), 5, 5);
+  p.setBrush(QColor(0xfff0b0));
+  p.drawEllipse(aim + QPointF(-1.5, 0.5), 1.6, 1.6);
 }
 
 void openSights(QPainter& p, QPointF aim, bool bead) {
@@ -82,38 +117,37 @@ void openSights(QPainter& p, QPointF aim, bool bead) {
   p.setBrush(steel(aim.x() - 40, aim.x() + 40));
   p.drawPolygon(QPolygonF({QPointF(aim.x() - 8, aim.y() + 2), QPointF(aim.x() + 8, aim.y() + 2),
                            QPointF(aim.x() + 40, 240), QPointF(aim.x() - 40, 240)}));  // barrel running away
-  p.setBrush(bead ? QColor(0xe8d8a0) : QColor(0x111111));
   if (bead)
-    p.drawEllipse(aim + QPointF(0, 3), 4, 4);
+    beadOnRib(p, aim);
   else
-    p.drawRect(QRectF(aim.x() - 2, aim.y(), 4, 12));  // front post, its top the aim
-  if (!bead) {                                        // rear notch
-    p.setBrush(QColor(0x151515));
-    p.drawRect(QRectF(aim.x() - 46, aim.y() + 26, 36, 16));
-    p.drawRect(QRectF(aim.x() + 10, aim.y() + 26, 36, 16));
-  }
+    postAndNotch(p, aim);
   p.setBrush(walnut(aim.x() - 70, aim.x() + 70));
-  p.drawPolygon(QPolygonF({QPointF(aim.x() - 70, 240), QPointF(aim.x() - 40, aim.y() + 70),
-                           QPointF(aim.x() + 40, aim.y() + 70), QPointF(aim.x() + 70, 240)}));
+  p.drawPolygon(QPolygonF({QPointF(aim.x() - 70, 240), QPointF(aim.x() - 40, aim.y() + 90),
+                           QPointF(aim.x() + 40, aim.y() + 90), QPointF(aim.x() + 70, 240)}));
 }
 
+// The bow's pin guard: a ring round three bright fibre pins, the top one at the aim.
 void bowPins(QPainter& p, QPointF aim) {
   p.setPen(Qt::NoPen);
-  p.setBrush(steel(aim.x() + 24, aim.x() + 40));
-  p.drawRect(QRectF(aim.x() + 24, 0, 16, 240));  // the riser
-  p.setBrush(QColor(0x3a3a3e));
-  p.drawRect(QRectF(aim.x() - 30, aim.y() - 40, 60, 6));
-  p.drawRect(QRectF(aim.x() - 30, aim.y() + 34, 60, 6));
-  const QColor pins[] = {QColor(0xf0e020), QColor(0x30e030), QColor(0xf04020)};
+  p.setBrush(steel(aim.x() + 40, aim.x() + 56));
+  p.drawRect(QRectF(aim.x() + 40, 0, 16, 240));  // the riser
+  p.setBrush(QColor(0x2a2a2e));
+  p.drawRect(QRectF(aim.x() + 30, aim.y() + 6, 12, 10));  // the bracket
+  const QPointF ring = aim + QPointF(0, 14);
+  p.setBrush(QColor(0x1a1a1e));
+  p.drawEllipse(ring, 34, 34);
+  p.setBrush(QColor(kKeyColour));
+  p.drawEllipse(ring, 28, 28);
+  const QColor pins[] = {QColor(0x30f030), QColor(0xf0e020), QColor(0xf04020)};
   for (int i = 0; i < 3; ++i) {
-    const QPointF head = aim + QPointF(0, (i - 1) * 16 + 16);
+    const QPointF head = aim + QPointF(0, i * 14);
     p.setBrush(QColor(0x333333));
-    p.drawRect(QRectF(head.x(), head.y() - 1, 26, 3));
+    p.drawRect(QRectF(head.x(), head.y() - 1.5, 30, 3));
     p.setBrush(pins[i]);
-    p.drawEllipse(head, 3, 3);
+    p.drawEllipse(head, 3.5, 3.5);
   }
   p.setPen(QPen(QColor(0xd8d0c0), 2));
-  p.drawLine(QPointF(aim.x() - 60, 0), QPointF(aim.x() - 60, 240));  // the string
+  p.drawLine(QPointF(aim.x() - 70, 0), QPointF(aim.x() - 70, 240));  // the string
 }
 
 void drawSightFrame(QPainter& p, int weapon, QPointF aim) {

@@ -3,7 +3,7 @@
 #include "tools/worldgen/trophy_photos.h"
 
 #include "shell/names.h"
-#include "tools/worldgen/animal_figure.h"
+#include "tools/worldgen/animal_view.h"
 #include "tools/worldgen/landscape.h"
 #include "tools/worldgen/materials.h"
 #include "tools/worldgen/picture_files.h"
@@ -29,14 +29,14 @@ QImage trophyPhoto(QChar world, const QString& clip, int species) {
   QPainter p(&image);
   p.setRenderHint(QPainter::Antialiasing);
   StableRandom rnd(clip);
-  const AnimalLook& look = lookOf(species);
   Pose pose;
-  pose.pixelsPerMetre = std::clamp(95 / look.metres, 20.0, 60.0);
+  const QSizeF extent = animalExtent(species);
+  pose.pixelsPerMetre = std::min(230 / extent.width(), 190 / extent.height());
   pose.x = rnd.between(140, 180);
-  pose.ground = 212;
+  pose.ground = 222;
   pose.facing = rnd.below(2) ? 1 : -1;
   pose.headLift = 1;
-  drawAnimal(p, look, pose);
+  drawAnimal(p, species, pose);
   // Warm late light from the left, then the print's border.
   QLinearGradient light(0, 0, kPhoto.width(), 0);
   light.setColorAt(0, QColor(255, 200, 120, 40));
@@ -49,6 +49,20 @@ QImage trophyPhoto(QChar world, const QString& clip, int species) {
 }
 
 }  // namespace
+
+QImage recordBookPicture(const Content& c, int species) {
+  const QString worlds = cell(c.animals, animalRow(c, species), QStringLiteral("Worlds"));
+  const QChar home = worlds.isEmpty() ? QChar(u'B') : worlds.at(0);
+  QImage image = paintLandscape({home, QStringLiteral("trophy"), 320, 240, 0.42, false});
+  QPainter p(&image);
+  Pose pose;
+  pose.ground = 225;
+  const QSizeF extent = animalExtent(species);
+  pose.pixelsPerMetre = std::min(250 / extent.width(), 200 / extent.height());
+  pose.headLift = 1;
+  drawAnimal(p, species, pose);
+  return image;
+}
 
 void writeTrophyPhotos(const Content& c, const fs::path& root) {
   std::set<QString> done;

@@ -5,9 +5,14 @@
 
 #include "tools/worldgen/content.h"
 
+#include <QImage>
+
 #include <filesystem>
 
 namespace worldgen {
+
+// The record book's picture of a species, standing in the first world it lives in.
+QImage recordBookPicture(const Content& c, int species);
 
 void writeTrophyPhotos(const Content& c, const std::filesystem::path& root);
 
