@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/files.h"
 
+#include "platform/files_log.h"
+
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <system_error>
 
 namespace platform {
 namespace fs = std::filesystem;
 namespace {
+
+// Longest file name the host's folders take, in bytes.
+constexpr qsizetype kMaxFileNameBytes = 255;
 
 QStringList components(const QString& path) {
   static const QRegularExpression kSeparators(QStringLiteral(R"([\\/]+)"));
@@ -67,11 +73,36 @@ fs::path Files::resolve(const QString& gamePath) const {
   } else {
     result = fs::current_path();
   }
+  // Components below the root; ".." at the root stays there, as on a drive's root folder.
+  int depth = 0;
   for (const QString& part : components(rest)) {
     if (part == u".") continue;
-    result = part == u".." ? result.parent_path() : matchComponent(result, part);
+    if (part != u"..") {
+      result = matchComponent(result, part);
+      ++depth;
+    } else if (depth > 0) {
+      result = result.parent_path();
+      --depth;
+    }
   }
   return result;
+}
+
+bool Files::isPlainFileName(const QString& name) {
+  if (name.isEmpty() || name == u"." || name == u".." || name.toUtf8().size() > kMaxFileNameBytes)
+    return false;
+  return std::none_of(name.begin(), name.end(), [](QChar c) {
+    return c == u'\\' || c == u'/' || c == u':' || c.unicode() < 0x20 || c.unicode() == 0x7f;
+  });
+}
+
+std::optional<fs::path> Files::resolveIn(const QString& folder, const QString& name) const {
+  if (!isPlainFileName(name)) {
+    qCWarning(filesLog) << "refused the file name" << name << "in" << folder;
+    return std::nullopt;
+  }
+  const fs::path base = resolve(folder);
+  return matchComponent(base, name);
 }
 
 bool Files::exists(const QString& gamePath) const {

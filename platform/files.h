@@ -22,10 +22,15 @@ class Files {
   std::optional<std::filesystem::path> driveFolder(QChar letter) const;
 
   // The host path of a game path. "\" and "/" both separate; every existing component is
-  // matched without regard to case; what does not exist yet is kept as written. A path
-  // without a drive letter is a host path. An unmapped drive letter resolves to a path that
-  // does not exist, so nothing is found there.
+  // matched without regard to case; what does not exist yet is kept as written; ".." never
+  // climbs above the drive's folder. A path without a drive letter is a host path. An
+  // unmapped drive letter resolves to a path that does not exist, so nothing is found there.
   std::filesystem::path resolve(const QString& gamePath) const;
+  // The file `name` directly inside `folder` (a game path), or nothing when `name` is not a
+  // plain file name: empty, "." or "..", a separator, a drive colon or a control character
+  // could reach outside the folder. Every refusal is logged.
+  std::optional<std::filesystem::path> resolveIn(const QString& folder, const QString& name) const;
+  static bool isPlainFileName(const QString& name);
 
   bool exists(const QString& gamePath) const;
   bool remove(const QString& gamePath) const;

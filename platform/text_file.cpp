@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/text_file.h"
 
+#include "platform/durable_file.h"
 #include "platform/runtime.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 namespace rt {
 namespace {
@@ -114,11 +114,7 @@ void PrintFile::printDate(DateTime value) {
 }
 
 void PrintFile::commit(const std::filesystem::path& path) const {
-  QSaveFile file(QString::fromStdString(path.string()));
-  // Unbuffered: a write that fails in a buffer flushed only at commit is not reported by it.
-  if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(data_) != data_.size() ||
-      !file.commit())
-    throw std::runtime_error("cannot write " + path.string());
+  platform::writeDurably(path, data_);
 }
 
 }  // namespace rt

@@ -6,6 +6,7 @@
 #include "platform/pictures.h"
 #include "platform/resize_widget.h"
 #include "shell/about_text.h"
+#include "shell/file_names.h"
 #include "shell/game_state.h"
 #include "shell/help_window.h"
 #include "shell/save_file_layout.h"
@@ -21,7 +22,6 @@
 
 namespace {
 
-constexpr int kMaxNameLength = 128;
 constexpr QSize kDesign{640, 480};
 const QString kDeveloperSite = QStringLiteral("https://www.tamsin-games.example/");
 
@@ -42,6 +42,9 @@ Filer::Filer()
   MainLab->setWordWrap(true);
   MainLab->setStyleSheet(QStringLiteral("color: #f3e9cf; background: rgba(30, 24, 12, 170); padding: 4px;"));
   Usename->installEventFilter(this);
+  Usename->setMaxLength(kMaxSaveNameLength);
+  // Pasted, dropped and filled-in text passes the same rule as typed keys.
+  connect(Usename, &QLineEdit::textChanged, this, &Filer::keepSaveName);
   connect(List1, &QListWidget::itemClicked, this, [this] { List1_Click(); });
   connect(List1, &QListWidget::itemDoubleClicked, this, [this] { List1_DblClick(); });
   placeWidgets();
@@ -195,8 +198,16 @@ int Filer::Usename_KeyPress(int keyAscii) {
   }
   const bool letter = (keyAscii >= 'a' && keyAscii <= 'z') || (keyAscii >= 'A' && keyAscii <= 'Z');
   const bool allowed = letter || keyAscii == ' ' || (keyAscii >= '0' && keyAscii <= '9');
-  if (!allowed || Usename->text().size() >= kMaxNameLength) return 0;
+  if (!allowed || Usename->text().size() >= kMaxSaveNameLength) return 0;
   return QChar(keyAscii).toUpper().unicode();
+}
+
+void Filer::keepSaveName(const QString& text) {
+  const QString name = saveNameFrom(text);
+  if (name == text) return;
+  const int cursor = std::min(Usename->cursorPosition(), static_cast<int>(name.size()));
+  Usename->setText(name);
+  Usename->setCursorPosition(cursor);
 }
 
 bool Filer::eventFilter(QObject* watched, QEvent* event) {

@@ -77,6 +77,7 @@ class Filer : public QDialog {
   void openLoadDialogue(char kind, const QString& heading);
   void openSaveDialogue(char kind, const QString& heading);
   void fillList();
+  void keepSaveName(const QString& text);
   void closeWith(const QString& handOver);
   std::optional<QString> selectedEntry() const;
   QList<QPushButton*> mainButtons() const;

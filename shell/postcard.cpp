@@ -7,6 +7,7 @@
 #include "platform/runtime.h"
 #include "platform/screens_host.h"
 #include "shell/data_tables.h"
+#include "shell/file_names.h"
 #include "shell/filer.h"
 #include "shell/game_state.h"
 #include "shell/names.h"
@@ -17,6 +18,7 @@
 #include "shell/screen_layout.h"
 #include "shell/world_descriptions.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -52,6 +54,10 @@ Postcard::Postcard()
   Image2->setLineWidth(2);
   Starthint->setAlignment(Qt::AlignCenter);
   Namebox->setPlaceholderText(QStringLiteral("Hunter"));
+  // However the name arrives, it holds only what a save file can give back.
+  connect(Namebox, &QLineEdit::textChanged, this, [this](const QString& text) {
+    if (const QString name = hunterNameFrom(text); name != text) Namebox->setText(name);
+  });
   for (int i = 0; i < 3; ++i) {
     Diffbutton[i] = new QRadioButton(QString::fromLatin1(kSkills[i]), this);
     connect(Diffbutton[i], &QRadioButton::clicked, this, [this, i] { Diffbutton_Click(i); });
@@ -130,7 +136,8 @@ void Postcard::Image2_Click() {
   Game.AreaCode = WorldName(Game.WorldNum).left(6);
   Game.AreaLetter = Game.AreaCode.left(1);
   Game.PlaceMode = 0;
-  Game.HunterName = Namebox->text().isEmpty() ? QStringLiteral("Hunter") : Namebox->text();
+  const QString name = hunterNameFrom(Namebox->text());
+  Game.HunterName = name.isEmpty() ? QStringLiteral("Hunter") : name;
   Game.StartPano = lodgeLocation();
   if (qhunt->isChecked()) {
     Game.StartPano = quickHuntLocation();
@@ -161,6 +168,16 @@ void Postcard::Loadgamebut_Click() {
   if (Game.PlaceMode == 3) SetWeaponSight();
   Game.StartPano = loadedPlaceLocation(Game.PlaceMode);
   finish();
+}
+
+void Postcard::keyPressEvent(QKeyEvent* event) {
+  // Escape would reject the card, and a rejected card ends the program: a stray Escape from
+  // the start-up question must not end the game.
+  if (event->key() == Qt::Key_Escape) {
+    event->accept();
+    return;
+  }
+  QDialog::keyPressEvent(event);
 }
 
 void Postcard::finish() {

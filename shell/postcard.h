@@ -44,6 +44,9 @@ class Postcard : public QDialog {
 
   bool turnedOver() const { return turned_; }
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void placeWidgets();
   void finish();

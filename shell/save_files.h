@@ -6,13 +6,18 @@
 #include <QString>
 #include <QStringList>
 
+#include <filesystem>
 #include <optional>
 
 // `Fileloc` + name + `SaveExt` + kind letter.
 QString saveFilePath(const QString& name, char kind);
+// The host file of save `name` inside the save folder; nothing when `name` is not a save
+// name, so no save, load or delete can reach outside that folder.
+std::optional<std::filesystem::path> saveFileTarget(const QString& name, char kind);
 
 // Names of the saves of one kind in the active world group, without their extensions,
-// upper case, in the order the folder gives them.
+// upper case, in the order the folder gives them. A file whose name is no save name is left
+// out, never opened.
 QStringList listSaveNames(char kind);
 
 // Writes the global state as a file of the given kind. The old file stays whole until the
@@ -28,12 +33,15 @@ void ReadSaveFile(const QString& path, char kind);
 // form of a save file's first fields. A missing or short file keeps what was read.
 void ReadQuickHuntOutfit(const QString& path);
 
-// The menu's save confirmation. Asks before overwriting and reports the result in boxes.
+// The menu's save confirmation with the name box's text, made a save name first; only an
+// empty name is refused. Asks before overwriting and reports the result in boxes; a failed
+// write stays silent on screen and is logged.
 enum class SaveOutcome { NeedName, Declined, Saved, Failed };
-SaveOutcome saveNamedFile(const QString& name, char kind);
+SaveOutcome saveNamedFile(const QString& text, char kind);
 
 // The menu's load confirmation with the list's selected entry (none when nothing is
-// selected). On success `ScreenState` becomes "LOADED".
+// selected). Values outside their fields' ranges become the new game's. On success
+// `ScreenState` becomes "LOADED".
 enum class LoadOutcome { NothingSelected, EmptySelection, Loaded };
 LoadOutcome loadNamedFile(const std::optional<QString>& selected, char kind);
 

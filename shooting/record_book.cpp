@@ -7,6 +7,7 @@
 #include "shell/game_state.h"
 #include "shell/names.h"
 #include "shooting/scene_layout.h"
+#include "shooting/trophy_book.h"
 #include "shooting/trophy_record.h"
 
 #include <QHeaderView>
@@ -72,6 +73,8 @@ void RecordBook::placeWidgets() {
 }
 
 void RecordBook::Form_Load() {
+  // A damaged book would make every later kill fail; it is kept aside before anything reads it.
+  keepTrophyBookUsable();
   placeFullScreenScene(*this);
   Background->setPicturePath(Game.MediaRoot + QStringLiteral("art\\") + Game.AreaLetter +
                              QStringLiteral("trophy.bmp"));
@@ -89,11 +92,7 @@ void RecordBook::Form_Load() {
 }
 
 void RecordBook::appendTrophy() {
-  VsData10->SetDatabaseName(trophyBookPath());
-  VsData10->Refresh();
-  VsData10->AddNew();
-  for (const auto& [field, value] : newTrophyRecord()) VsData10->SetField(field, value);
-  VsData10->Update();
+  appendTrophyTo(*VsData10);
 }
 
 void RecordBook::showPage() {

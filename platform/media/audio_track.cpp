@@ -2,6 +2,7 @@
 #include "platform/media/audio_track.h"
 
 #include "platform/media/av_input.h"
+#include "platform/media/media_log.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -50,11 +51,15 @@ void appendConverted(SwrContext* resampler, const AVFrame* frame, QByteArray& pc
   const int made =
       swr_convert(resampler, &out, room, frame ? const_cast<const uint8_t**>(frame->extended_data) : nullptr,
                   frame ? frame->nb_samples : 0);
-  pcm.resize(at + qsizetype(std::max(made, 0)) * AudioTrack::kBytesPerFrame);
+  pcm.resize(std::min(at + qsizetype(std::max(made, 0)) * AudioTrack::kBytesPerFrame, AudioTrack::kMaxBytes));
+}
+
+bool full(const QByteArray& pcm) {
+  return pcm.size() >= AudioTrack::kMaxBytes;
 }
 
 void drainDecoder(AVCodecContext* decoder, SwrContext* resampler, AVFrame* frame, QByteArray& pcm) {
-  while (avcodec_receive_frame(decoder, frame) == 0) {
+  while (!full(pcm) && avcodec_receive_frame(decoder, frame) == 0) {
     appendConverted(resampler, frame, pcm);
     av_frame_unref(frame);
   }
@@ -81,14 +86,16 @@ AudioTrack decodeAudioTrack(AvInput& input) {
   std::unique_ptr<AVPacket, PacketFreer> packet(av_packet_alloc());
   std::unique_ptr<AVFrame, FrameFreer> frame(av_frame_alloc());
   const int index = input.audio()->index;
-  while (av_read_frame(input.format(), packet.get()) >= 0) {
+  while (!full(track.pcm) && av_read_frame(input.format(), packet.get()) >= 0) {
     if (packet->stream_index == index && avcodec_send_packet(decoder.get(), packet.get()) == 0)
       drainDecoder(decoder.get(), resampler.get(), frame.get(), track.pcm);
     av_packet_unref(packet.get());
   }
   avcodec_send_packet(decoder.get(), nullptr);
   drainDecoder(decoder.get(), resampler.get(), frame.get(), track.pcm);
-  appendConverted(resampler.get(), nullptr, track.pcm);
+  if (!full(track.pcm)) appendConverted(resampler.get(), nullptr, track.pcm);
+  if (full(track.pcm))
+    qCWarning(mediaLog) << "a sound longer than" << AudioTrack::kMaxLengthMs << "ms was cut there";
   return track;
 }
 

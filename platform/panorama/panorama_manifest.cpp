@@ -75,7 +75,10 @@ std::optional<ManifestError> parseLine(const QString& line, const LineContext& a
     const QString name = line.section(u' ', 1, -1, QString::SectionSkipEmpty);
     if (name.isEmpty()) return at.error(QStringLiteral("image without a file name"));
     if (!manifest.image.empty()) return at.error(QStringLiteral("a second image line"));
-    manifest.image = files().resolve(QString::fromStdString((folder / name.toStdString()).string()));
+    // Only a file beside the manifest: a path could make an outside file read anything.
+    const auto image = files().resolveIn(QString::fromStdString(folder.string()), name);
+    if (!image) return at.error(QStringLiteral("the image '%1' is not a file beside the manifest").arg(name));
+    manifest.image = *image;
     return std::nullopt;
   }
   if (keyword == QLatin1String("cylindrical")) return parseProjection(words, at, manifest);

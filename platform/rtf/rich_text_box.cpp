@@ -30,10 +30,9 @@ bool RichTextBox::setFileName(const QString& gamePath) {
     return false;
   }
   const QByteArray bytes = file.readAll();
-  if (const auto document = rtf::readRtf(bytes))
-    rtf::fillTextDocument(*document, *this->document());
-  else
-    setPlainText(QString::fromLatin1(bytes));
+  const auto document = rtf::readRtf(bytes);
+  rtf::fillTextDocument(document ? *document : rtf::plainDocument(QString::fromLatin1(bytes)),
+                        *this->document());
   moveCursor(QTextCursor::Start);
   return true;
 }

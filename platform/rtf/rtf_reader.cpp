@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "platform/rtf/rtf_reader.h"
 
+#include <QList>
+
 #include <algorithm>
 #include <array>
 #include <cctype>
@@ -270,11 +272,12 @@ class Reader {
       return;
     }
     if (state_.hidden || stack_.empty()) return;
-    if (!current_.runs.empty() && current_.runs.back().format == state_.chars) {
+    if (!current_.runs.empty() && current_.runs.back().format == state_.chars)
       current_.runs.back().text += c;
-      return;
-    }
-    current_.runs.push_back({QString(c), state_.chars});
+    else
+      current_.runs.push_back({QString(c), state_.chars});
+    if (++paragraphChars_ >= kMaxParagraphChars) endParagraph();
+    if (++documentChars_ >= kMaxDocumentChars) done_ = true;
   }
 
   void endParagraph() {
@@ -282,6 +285,7 @@ class Reader {
     current_.format = state_.para;
     doc_.paragraphs.push_back(std::move(current_));
     current_ = Paragraph{};
+    paragraphChars_ = 0;
   }
 
   const QByteArray& in_;
@@ -293,6 +297,8 @@ class Reader {
   bool done_ = false;
   Document doc_;
   Paragraph current_;
+  qsizetype paragraphChars_ = 0;
+  qsizetype documentChars_ = 0;
 };
 
 }  // namespace
@@ -300,6 +306,17 @@ class Reader {
 std::optional<Document> readRtf(const QByteArray& bytes) {
   if (!bytes.trimmed().startsWith("{\\rtf")) return std::nullopt;
   return Reader(bytes).read();
+}
+
+Document plainDocument(const QString& text) {
+  Document doc;
+  const QString kept = text.left(kMaxDocumentChars);
+  for (QStringView line : QStringView(kept).split(u'\n')) {
+    if (line.endsWith(u'\r')) line.chop(1);
+    for (qsizetype at = 0; at == 0 || at < line.size(); at += kMaxParagraphChars)
+      doc.paragraphs.push_back({{{line.mid(at, kMaxParagraphChars).toString(), {}}}, {}});
+  }
+  return doc;
 }
 
 }  // namespace platform::rtf

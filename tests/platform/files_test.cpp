@@ -55,3 +55,48 @@ TEST(FileOperations, RenameAndDeleteThroughGamePaths) {
   EXPECT_FALSE(platform::files().exists("D:\\s\\B.VNG"));
   EXPECT_FALSE(platform::files().remove("D:\\s\\B.VNG"));
 }
+
+TEST(DrivePaths, ClimbingStopsAtTheDrivesFolder) {
+  TempDrive d;
+  d.write("art/x.bmp", "x");
+  for (const char* path : {"D:\\..\\..\\art\\x.bmp", "D:\\art\\..\\..\\..\\art\\x.bmp", "D:/../art/./x.bmp",
+                           "D:\\art\\..\\..\\art\\X.BMP"})
+    EXPECT_EQ(platform::files().resolve(path), d.root() / "art" / "x.bmp") << path;
+}
+
+// Whatever a save name, a list entry or a manifest holds, only a plain name inside the
+// folder resolves.
+TEST(FolderPaths, OnlyPlainNamesResolveInsideTheFolder) {
+  TempDrive d;
+  d.write("saves/Camp.VNG", "x");
+  const auto folder = d.root() / "saves";
+  struct Case {
+    QString name;
+    std::optional<std::filesystem::path> expected;
+  };
+  const Case cases[] = {
+      {"CAMP.VNG", folder / "Camp.VNG"},
+      {"NEW ONE.VNG", folder / "NEW ONE.VNG"},
+      {"..", std::nullopt},
+      {".", std::nullopt},
+      {"", std::nullopt},
+      {"..\\..\\x.VNG", std::nullopt},
+      {"../x.VNG", std::nullopt},
+      {"\\etc\\passwd", std::nullopt},
+      {"/etc/passwd", std::nullopt},
+      {"C:x.VNG", std::nullopt},
+      {"sub\\x.VNG", std::nullopt},
+      {"x\n.VNG", std::nullopt},
+      {QString(255, u'A'), folder / std::string(255, 'A')},
+      {QString(256, u'A'), std::nullopt},
+  };
+  for (const Case& c : cases)
+    EXPECT_EQ(platform::files().resolveIn(QStringLiteral("D:\\Saves\\"), c.name), c.expected)
+        << c.name.toStdString();
+}
+
+TEST(FolderPaths, AFolderClimbingOutOfItsDriveStaysOnIt) {
+  TempDrive d;
+  EXPECT_EQ(platform::files().resolveIn(QStringLiteral("D:\\..\\..\\"), QStringLiteral("A.VNG")),
+            d.root() / "A.VNG");
+}

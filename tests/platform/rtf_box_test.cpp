@@ -2,6 +2,7 @@
 // The rich-text box: loading a document by its game path and reporting what it cannot load.
 #include "platform/rtf/rich_text_box.h"
 
+#include "platform/rtf/rtf_reader.h"
 #include "support/temp_drive.h"
 
 #include <QTextBlock>
@@ -50,6 +51,21 @@ TEST_F(RichTextBoxTest, LoadingAgainReplacesTheDocument) {
   box.setFileName(QStringLiteral("D:\\data\\a.rtf"));
   box.setFileName(QStringLiteral("D:\\data\\b.rtf"));
   EXPECT_EQ(box.toPlainText(), QStringLiteral("second"));
+}
+
+// A document of one 8 MB line: the box holds short paragraphs, and only the start of it.
+TEST_F(RichTextBoxTest, AHugeSingleLineIsCutIntoShortParagraphs) {
+  const QByteArray words = QByteArray("deer ").repeated(8 * 1024 * 1024 / 5);
+  for (const QByteArray& bytes : {"{\\rtf1 " + words + "}", words}) {
+    drive.write("data/huge.rtf", bytes);
+    ASSERT_TRUE(box.setFileName(QStringLiteral("D:\\data\\huge.rtf")));
+    const QTextDocument& doc = *box.document();
+    EXPECT_LE(doc.characterCount(), platform::rtf::kMaxDocumentChars + doc.blockCount());
+    EXPECT_GT(doc.blockCount(), 1);
+    for (QTextBlock block = doc.firstBlock(); block.isValid(); block = block.next())
+      ASSERT_LE(block.length(), platform::rtf::kMaxParagraphChars + 1);
+    EXPECT_TRUE(doc.firstBlock().text().startsWith(QStringLiteral("deer deer")));
+  }
 }
 
 }  // namespace

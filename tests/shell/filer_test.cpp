@@ -7,11 +7,17 @@
 #include "shell/save_files.h"
 #include "shell/shared_procedures.h"
 
+#include <QClipboard>
+#include <QDropEvent>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTest>
+
+#include <filesystem>
 
 using platform::Answer;
 
@@ -183,4 +189,47 @@ TEST_F(FilerTest, PartnerPagesPreferTheLocalCopy) {
   EXPECT_TRUE(shell->opened()[0].startsWith("https://"));
   EXPECT_EQ(shell->opened()[1], "D:\\devpage\\index.htm");
   EXPECT_EQ(shell->opened()[2], "D:\\coldwater\\index.htm");
+}
+
+// However a name reaches the save box, only the save alphabet stays in it.
+TEST_F(FilerTest, PastedDroppedAndFilledInNamesFollowTheTypingRules) {
+  filer.Savegamebut_Click();
+  filer.Usename->clear();
+  QGuiApplication::clipboard()->setText(QStringLiteral("../../../x, y"));
+  filer.Usename->paste();
+  EXPECT_EQ(filer.Usename->text(), "X Y");
+
+  filer.Usename->clear();
+  QMimeData dropped;
+  dropped.setText(QStringLiteral("..\\Camp-2"));
+  QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(filer.Usename, &enter);
+  QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(filer.Usename, &drop);
+  EXPECT_EQ(filer.Usename->text(), "CAMP2");
+
+  filer.Usename->setText(QString(300, u'z'));
+  EXPECT_EQ(filer.Usename->text(), QString(128, u'Z'));
+
+  Game.HunterName = "../../../x";
+  filer.Savegamebut_Click();
+  EXPECT_EQ(filer.Usename->text(), "X");
+  filer.Saveok_Click();
+  EXPECT_EQ(listSaveNames(kGameKind), QStringList{"X"});
+  EXPECT_FALSE(std::filesystem::exists(saves.root() / "x.VNG"));
+}
+
+TEST_F(FilerTest, AFileWhoseNameDoesNotFitIsNeitherListedNorDeleted) {
+  saves.write("outside.VNG", "keep");
+  saves.write("saves/..\\outside.VNG", "odd");
+  saveGame("REAL");
+  filer.Form_Load();
+  filer.Loadgamebut_Click();
+  ASSERT_EQ(filer.List1->count(), 1);
+  select("REAL");
+  dialogs->answer(Answer::Ok);
+  filer.Deluser_Click();
+  EXPECT_EQ(filer.List1->count(), 0);
+  EXPECT_EQ(saves.read("outside.VNG"), "keep");
+  EXPECT_EQ(saves.read("saves/..\\outside.VNG"), "odd");
 }

@@ -13,6 +13,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTest>
 #include <QTextEdit>
 
 namespace {
@@ -93,6 +94,30 @@ TEST_F(PostcardTest, ANameOfBlanksIsKept) {
   scriptSights(0.5);
   postcard.Image2_Click();
   EXPECT_EQ(Game.HunterName, "   ");
+}
+
+// A rejected card ends the program.
+TEST_F(PostcardTest, EscapeNeverRejectsTheCard) {
+  bool rejected = false;
+  QObject::connect(&postcard, &QDialog::rejected, [&rejected] { rejected = true; });
+  postcard.show();
+  for (bool turned : {false, true}) {
+    if (turned) postcard.Nextbox_Click();
+    QTest::keyClick(&postcard, Qt::Key_Escape);
+    EXPECT_FALSE(rejected);
+    EXPECT_TRUE(postcard.isVisible());
+  }
+}
+
+// A comma or a double quote would end the name when the save is read back.
+TEST_F(PostcardTest, TheNameHoldsOnlyWhatASaveGivesBack) {
+  postcard.Nextbox_Click();
+  postcard.Namebox->setText("Smith, \"Doc\" John");
+  EXPECT_EQ(postcard.Namebox->text(), "Smith Doc John");
+  postcard.Namebox->setText(QString(300, u'n'));
+  scriptSights(0.5);
+  postcard.Image2_Click();
+  EXPECT_EQ(Game.HunterName, QString(128, u'n'));
 }
 
 TEST_F(PostcardTest, SightsStartBetweenMinusTenAndNine) {

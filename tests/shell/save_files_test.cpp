@@ -2,9 +2,12 @@
 #include "shell/save_files.h"
 
 #include "game_fixture.h"
+#include "shell/file_names.h"
 #include "shell/save_file_layout.h"
 
 #include <QFile>
+
+#include <filesystem>
 
 using platform::Answer;
 using platform::Buttons;
@@ -226,10 +229,16 @@ TEST_F(SaveFiles, NoToOverwriteLeavesTheOldFileByteForByte) {
 
 TEST_F(SaveFiles, ASaveWithoutANameWritesNothing) {
   EXPECT_EQ(saveNamedFile("", kGameKind), SaveOutcome::NeedName);
-  EXPECT_EQ(saveNamedFile("   ", kGameKind), SaveOutcome::NeedName);
   EXPECT_EQ(dialogs->last(), (platform::MessageBox{"You must enter a Save name", Buttons::Ok, Icon::None,
                                                    "Enter a Save Name"}));
+  // Nothing of the save alphabet is left of it.
+  EXPECT_EQ(saveNamedFile("../,", kGameKind), SaveOutcome::NeedName);
   EXPECT_TRUE(listSaveNames(kGameKind).isEmpty());
+}
+
+TEST_F(SaveFiles, ANameOfBlanksIsAName) {
+  EXPECT_EQ(saveNamedFile("   ", kGameKind), SaveOutcome::Saved);
+  EXPECT_EQ(listSaveNames(kGameKind), QStringList{"   "});
 }
 
 TEST_F(SaveFiles, ASaveThatCannotBeWrittenKeepsTheOldFile) {
@@ -277,4 +286,103 @@ TEST_F(SaveFiles, DeletingAsksFirst) {
   dialogs->answer(Answer::Ok);
   EXPECT_TRUE(deleteNamedFile(QStringLiteral("GONE"), kEquipmentKind));
   EXPECT_TRUE(listSaveNames(kEquipmentKind).isEmpty());
+}
+
+// Names that would reach outside the save folder: a list entry, a pasted name, a file put
+// in the folder by hand.
+TEST_F(SaveFiles, NoNameReachesOutsideTheSaveFolder) {
+  saves.write("outside.VNG", "keep");
+  saves.write("saves/..\\outside.VNG", "odd");  // one file whose name holds a backslash
+  saves.write("saves/A.VNG.VNG", "double");
+  saves.write("saves/camp.vng", "");
+  EXPECT_EQ(listSaveNames(kGameKind), QStringList{"CAMP"});
+  dialogs->answer(Answer::Ok);
+  for (const QString& name :
+       {QStringLiteral("..\\OUTSIDE"), QStringLiteral("../OUTSIDE"), QStringLiteral("..")})
+    EXPECT_FALSE(deleteNamedFile(name, kGameKind)) << name.toStdString();
+  EXPECT_EQ(saves.read("outside.VNG"), "keep");
+  EXPECT_EQ(saves.read("saves/..\\outside.VNG"), "odd");
+
+  EXPECT_EQ(saveNamedFile("../../../x", kGameKind), SaveOutcome::Saved);
+  EXPECT_FALSE(std::filesystem::exists(saves.root() / "x.VNG"));
+  EXPECT_FALSE(std::filesystem::exists(saves.root() / "saves" / "x.VNG"));
+  EXPECT_TRUE(std::filesystem::exists(saves.root() / "saves" / "X.VNG"));
+}
+
+// Every text field comes back as it went, the hunter's name holding every character a
+// player can type into the postcard.
+TEST_F(SaveFiles, EveryTextFieldReadsBackWhole) {
+  setKnownState();
+  QString typed = QStringLiteral("A");
+  for (char16_t c = 0x20; c < 0x7f; ++c) typed += QChar(c);
+  typed += QString::fromUtf8("\u00e9\u00df\u00fc\u00c5\u00f1 \u65e5\u672c\u8a9e \U0001F98C Z");
+  Game.HunterName = hunterNameFrom(typed);
+  ASSERT_FALSE(Game.HunterName.contains(u',') || Game.HunterName.contains(u'"'));
+  ASSERT_GT(Game.HunterName.size(), 100);
+  Game.TrophyUnit = "Curl (in inches)";
+  Game.CurLocation = "Jane's draw; 2nd (upper) stand";
+  Game.HitVideoName = "hit01";
+  const GameState saved = Game;
+  ASSERT_EQ(saveNamedFile("ROUND TRIP", kGameKind), SaveOutcome::Saved);
+  Game = GameState{};
+  Game.Fileloc = "C:\\saves\\";
+  ASSERT_EQ(loadNamedFile(QStringLiteral("ROUND TRIP"), kGameKind), LoadOutcome::Loaded);
+  for (QString GameState::*field :
+       {&GameState::AreaLetter, &GameState::AreaCode, &GameState::HunterName, &GameState::HitVideoName,
+        &GameState::EscapeVideoName, &GameState::VideoName, &GameState::StartPano, &GameState::CurWeaponPic,
+        &GameState::TrophyUnit, &GameState::CurLocation})
+    EXPECT_EQ(Game.*field, saved.*field);
+  EXPECT_EQ(Game.SightWind[9], saved.SightWind[9]);  // the last value: nothing shifted
+}
+
+// A damaged file never leaves the hunter without buttons or in a black view: each value out
+// of its field's range becomes the new game's, the rest is kept.
+TEST_F(SaveFiles, ValuesOutOfRangeBecomeTheNewGamesOnLoad) {
+  media.write("data/.keep", "");
+  Game.WorldNum = 1;
+  Game.StartPano = "3lodge";
+  Game.TagsOwned.fill(kTagNone);
+  ASSERT_TRUE(writeSaveFile("D:\\data\\newgam.csv", kGameKind));
+  Game = GameState{};
+  Game.Fileloc = "C:\\saves\\";
+  setKnownState();
+  QList<QByteArray> lines = written(kGameKind).split('\n');
+  const auto set = [&lines](int line, const QByteArray& value) { lines[line - 1] = value + '\r'; };
+  set(5, "-5");              // a carried item
+  set(92, " 77");            // a tag code
+  set(106, " 99");           // WorldNum
+  set(107, "..\\..\\etc");   // AreaLetter
+  set(110, " 32767");        // PlaceMode
+  set(117, "..\\..\\pano");  // VideoName
+  set(120, "C:\\x");         // StartPano
+  set(121, "-1");            // StandNum
+  set(128, " 50");           // CurWeapon
+  saves.write("saves/BROKEN.VNG", lines.join('\n'));
+  Game = GameState{};
+  Game.Fileloc = "C:\\saves\\";
+  Game.MediaRoot = "D:\\";
+  ASSERT_EQ(loadNamedFile(QStringLiteral("BROKEN"), kGameKind), LoadOutcome::Loaded);
+  EXPECT_EQ(Game.EquipSlots[4], 0);
+  EXPECT_EQ(Game.EquipSlots[5], 105);
+  EXPECT_EQ(Game.TagsOwned[8], kTagNone);
+  EXPECT_EQ(Game.WorldNum, 1);
+  EXPECT_EQ(Game.AreaCode, "Piedmo");  // a world's code, though not this one's
+  EXPECT_EQ(Game.AreaLetter, "D");
+  EXPECT_EQ(Game.PlaceMode, 0);
+  EXPECT_EQ(Game.VideoName, "");
+  EXPECT_EQ(Game.StartPano, "3lodge");
+  EXPECT_EQ(Game.StandNum, 0);
+  EXPECT_EQ(Game.CurWeapon, 0);
+  EXPECT_EQ(Game.Money, 1875);
+  EXPECT_EQ(Game.HunterName, "JANE DOE");
+  EXPECT_EQ(Game.CurLocation, "North ridge");
+}
+
+TEST_F(SaveFiles, AValidGameLoadsUnchanged) {
+  setKnownState();
+  ASSERT_EQ(saveNamedFile("VALID", kGameKind), SaveOutcome::Saved);
+  Game = GameState{};
+  Game.Fileloc = "C:\\saves\\";
+  ASSERT_EQ(loadNamedFile(QStringLiteral("VALID"), kGameKind), LoadOutcome::Loaded);
+  EXPECT_EQ(written(kGameKind), goldenGame());
 }
