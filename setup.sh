@@ -15,6 +15,7 @@ packages=(
   libsqlite3-dev sqlite3 libgtest-dev libgmock-dev libbenchmark-dev
   xvfb xauth imagemagick x11-apps poppler-utils espeak-ng libespeak-ng-dev sox
   clang libclang-rt-14-dev
+  unzip ufoai-sound lugaru-data tuxpaint-stamps-default
 )
 
 install_missing() {
