@@ -11,7 +11,7 @@ packages=(
   libavformat-dev libavcodec-dev libavutil-dev libswscale-dev libswresample-dev ffmpeg
   libsqlite3-dev sqlite3 libgtest-dev libgmock-dev libbenchmark-dev
   xvfb xauth imagemagick x11-apps x11-utils poppler-utils espeak-ng libespeak-ng-dev sox
-  clang libclang-rt-14-dev tuxpaint-stamps-default
+  clang libclang-rt-14-dev tuxpaint-stamps-default unzip ufoai-sound lugaru-data
   librsvg2-bin desktop-file-utils appstream dpkg-dev
 )
 

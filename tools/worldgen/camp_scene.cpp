@@ -135,6 +135,24 @@ void paintHorse(QPainter& p, QPointF foot, double h, QColor coat) {
   p.drawRect(QRectF(foot.x() - h * 0.12, foot.y() - h * 0.86, h * 0.3, h * 0.22));
 }
 
+// Split wood stacked three high on the ground beside the fire: a shadow it sits on, the bark of
+// the stack, then the pale cut ends facing the viewer.
+void paintWoodpile(QPainter& p, QPointF foot, double h) {
+  const double r = h * 0.016, w = 6.4 * r, tall = 5.4 * r;
+  p.setBrush(QColor(0, 0, 0, 60));
+  p.drawEllipse(QPointF(foot.x() + w / 2, foot.y()), w * 0.7, r * 0.8);
+  p.setBrush(QColor(0x4a3422));
+  p.drawRect(QRectF(foot.x() - r * 0.2, foot.y() - tall, w, tall));
+  for (int k = 0; k < 9; ++k) {
+    const QPointF end(foot.x() + r + (k % 3) * 2.1 * r + (k / 3 == 1 ? r * 0.4 : 0),
+                      foot.y() - r - (k / 3) * 1.8 * r);
+    p.setBrush(QColor(0x6a4a2a));
+    p.drawEllipse(end, r * 1.05, r * 0.95);
+    p.setBrush(QColor(0xd8b483).darker(100 + (k % 3) * 12));
+    p.drawEllipse(end, r * 0.8, r * 0.72);
+  }
+}
+
 }  // namespace
 
 void paintCamp(QPainter& p, QChar world, int width, int height, const QList<Spot>& spots) {
@@ -151,11 +169,7 @@ void paintCamp(QPainter& p, QChar world, int width, int height, const QList<Spot
   paintFire(p, QPointF(width * 0.5, h * 0.8), h * 0.12);
   p.setBrush(QColor(0x6a4a2a));  // a log to sit on and a stack of split wood
   p.drawRoundedRect(QRectF(width * 0.455, h * 0.82, h * 0.22, h * 0.035), h * 0.015, h * 0.015);
-  for (int k = 0; k < 9; ++k) {
-    p.setBrush(QColor(0xb08050).darker(100 + (k % 3) * 15));
-    p.drawEllipse(QPointF(width * 0.6 + (k % 3) * h * 0.03, h * 0.66 - (k / 3) * h * 0.026), h * 0.016,
-                  h * 0.014);
-  }
+  paintWoodpile(p, QPointF(width * 0.6, h * 0.68), h);
   if (world == u'B' || world == u'T') {  // horses on the picket line
     p.setBrush(QColor(0x4a3a2a));
     p.drawRect(QRectF(width * 0.64, h * 0.5, width * 0.09, h * 0.006));

@@ -4,6 +4,7 @@
 #include "tools/worldgen/landscape.h"
 
 #include "tools/worldgen/colour_mix.h"
+#include "tools/worldgen/place_features.h"
 #include "tools/worldgen/seam_wrap.h"
 #include "tools/worldgen/stable_random.h"
 
@@ -117,22 +118,22 @@ Scenery sceneryOf(QChar world) {
               5,
               6,
               false};
-    default:
+    default:  // Piedmont: rolling hills wooded to their tops
       return {QColor(0x7a94bc),
               QColor(0xeedcc4),
               QColor(0xffd0a0),
-              QColor(0x8c92a8),
-              QColor(0x6c5a58),
+              QColor(0x7a7280),
+              QColor(0x5a4a44),
               QColor(0x9c7e5c),
               QColor(0x74563a),
               Relief::Hills,
-              0.2,
+              0.28,
               0.0,
               Texture::Leaves,
               {TreeKind::Hardwood, TreeKind::Oak, ShrubKind::Twigs, QColor(0x8a8078), QColor(0x9ab0c4),
                QColor(0x8a6a48), 0.02},
               0.4,
-              26,
+              40,
               8,
               1,
               false};
@@ -161,7 +162,7 @@ PlaceTraits traitsOf(const Scenery& s, const QString& description) {
   if (has({"field", "stubble", "meadow", "park", "flats", "sidehill", "bench", "basin", "knoll", "prairie",
            "rise", "crossing"}))
     t.treeFactor = 0.45;
-  if (has({"range"})) t.treeFactor = 0.1;  // a cleared shooting range
+  if (has({"range"})) t.treeFactor = 0;  // a cleared shooting range: nothing stands behind the lodge
   if (has({"timber", "thicket", "pine", "spruce", "saddle", "lodgepole", "hollow", "cedars"}))
     t.treeFactor = 1.6;
   t.clearing = has({"camp"});  // room for the tents and the fire before the viewer
@@ -278,10 +279,11 @@ QPainterPath paintRidge(Canvas& c, const RidgeLayer& layer, StableRandom& rnd) {
   // Faces turned to the light catch it; the others fall into blue shadow. Columns meet edge
   // to edge, so no smoothing between them.
   c.p.setRenderHint(QPainter::Antialiasing, false);
-  const int reach = 6;  // slopes read over a few columns, so faces are broad, not stripes
+  const int reach = 16;  // slopes read over many columns, so faces are broad, not stripes
   for (int i = reach; i + reach < tops.size(); ++i) {
     const double slope = (tops[i + reach] - tops[i - reach]) / (2.0 * reach * step);
-    const double x = i * step, depth = std::max(0.0, layer.base - tops[i]) * 0.5;
+    // One depth for the whole layer: faces that end at the same height leave no streaks below.
+    const double x = i * step, depth = layer.amplitude * 0.3;
     const QColor light =
         slope < 0 ? withAlpha(QColor(255, 240, 220), int(std::min(70.0, -slope * 160) * (1 - layer.haze)))
                   : withAlpha(QColor(40, 50, 80), int(std::min(60.0, slope * 120) * (1 - layer.haze)));
@@ -533,6 +535,7 @@ QImage paintLandscape(const LandscapeRequest& r, const QString& description) {
   paintGround(c, rnd);
   if (traits.river) paintRiver(c, rnd);
   if (traits.water || traits.lake) paintPonds(c, traits, rnd);
+  paintPlaceGround(p, description, r.width, r.height, c.horizonY, s.flora);
   paintUndergrowth(c, traits, rnd);
   paintTrees(c, traits, rnd);
   p.end();

@@ -475,8 +475,9 @@ void paintTestDesk(QPainter& p, const Room& room, const QRectF& a, StableRandom&
 void paintLodgeThing(QPainter& p, const Room& room, const Spot& s, StableRandom& rnd) {
   const QRectF a = s.area;
   const QString name = s.name;
-  if (name == u"^camp")
-    paintDoor(p, room, a, true);
+  if (name == u"^camp")  // the way out to camp is the front door; lettered like the range's
+    paintDoor(p, room, a, true),
+        paintSign(p, room, a.left() - 3 * room.unit(), a.right() + 3 * room.unit(), 2.35, "CAMP");
   else if (name == u"&range")
     paintDoor(p, room, a, false), paintSign(p, room, a.left() - 6, a.right() + 6, 2.35, "RANGE");
   else if (name == u"!outfit")

@@ -4,6 +4,7 @@
 #include "tools/worldgen/panorama_scenes.h"
 
 #include "tools/worldgen/landscape.h"
+#include "tools/worldgen/place_features.h"
 #include "tools/worldgen/stable_random.h"
 #include "tools/worldgen/trees.h"
 
@@ -128,6 +129,7 @@ QImage paintOutdoorPlace(QChar world, const QString& variant, const QString& des
   QImage image = paintLandscape({world, variant, width, height, 0.5, true}, description);
   QPainter p(&image);
   p.setRenderHint(QPainter::Antialiasing);
+  paintPlaceStructure(p, description, width, height);
   if (variant.contains(QStringLiteral("camp"))) paintCamp(p, world, width, height, spots);
   for (const Spot& s : spots) {
     if (s.name.startsWith(u'~'))

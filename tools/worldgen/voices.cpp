@@ -10,6 +10,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <stdexcept>
 #include <vector>
@@ -22,21 +23,24 @@ constexpr int kGapMs = 300;  // silence between lines, so a stretch never clips 
 
 struct Voice {
   const char* language;
+  const char* variants[2];  // the worlds take turns, so no two lodges sound alike
   int pitch;
   int rate;
 };
 
-// One voice per speaker; the worlds vary pitch and variant so no two lodges sound alike.
+// One accent, voice and pace per speaker, so the five people of a lodge are told apart.
 const std::map<QString, Voice>& speakerVoices() {
-  static const std::map<QString, Voice> kVoices = {{"host", {"en-us", 45, 160}},
-                                                   {"outfitter", {"en-gb-x-gbclan", 55, 170}},
-                                                   {"guide", {"en-us", 35, 150}},
-                                                   {"warden", {"en-gb-scotland", 40, 155}},
-                                                   {"range", {"en-029", 50, 165}}};
+  static const std::map<QString, Voice> kVoices = {{"host", {"en-us", {"m3", "f2"}, 48, 165}},
+                                                   {"outfitter", {"en-gb-x-rp", {"m1", "m4"}, 55, 172}},
+                                                   {"guide", {"en-us", {"m7", "m2"}, 34, 150}},
+                                                   {"warden", {"en-gb-scotland", {"m6", "m2"}, 42, 158}},
+                                                   {"range", {"en-029", {"m5", "m1"}, 50, 178}}};
   return kVoices;
 }
 
-const char* const kVariants[] = {"m1", "m3", "m2", "m7", "f2", "m4", "f1", "m6"};
+// Quieter than this is the engine's own lead-in and trail: cut, so lines follow without dead air.
+constexpr int kSilence = 200;
+constexpr int kMarginMs = 40;
 
 std::vector<int16_t>* gSink = nullptr;
 
@@ -57,16 +61,15 @@ int startEngine() {
 
 void selectVoice(const QString& speaker, const World& w) {
   const Voice& v = speakerVoices().at(speaker);
-  const int index = int(speakers().indexOf(speaker)) * 3 + QStringLiteral("PDBTY").indexOf(w.letter);
-  const QByteArray name = QByteArray(v.language) + '+' + kVariants[index % std::size(kVariants)];
+  const int index = int(QStringLiteral("PDBTY").indexOf(w.letter));
+  const QByteArray name = QByteArray(v.language) + '+' + v.variants[index % 2];
   if (espeak_SetVoiceByName(name.constData()) != EE_OK)
     throw std::runtime_error("no voice " + name.toStdString());
-  espeak_SetParameter(espeakPITCH, v.pitch + (index % 5) * 4, 0);
+  espeak_SetParameter(espeakPITCH, v.pitch + (index % 3) * 4, 0);
   espeak_SetParameter(espeakRATE, v.rate, 0);
   espeak_SetParameter(espeakVOLUME, 100, 0);
   espeak_SetParameter(espeakRANGE, 50, 0);
   espeak_SetParameter(espeakWORDGAP, 0, 0);
-  espeak_SetParameter(espeakINTONATION, 0, 0);
 }
 
 void speak(const QString& text, std::vector<int16_t>& out) {
@@ -76,6 +79,19 @@ void speak(const QString& text, std::vector<int16_t>& out) {
                nullptr);
   espeak_Synchronize();
   gSink = nullptr;
+}
+
+// Cuts the silence before and after the line just spoken, which starts at `from`.
+void trimSilence(std::vector<int16_t>& out, size_t from, int rate) {
+  const auto loud = [](int16_t v) { return v > kSilence || v < -kSilence; };
+  const auto first = std::find_if(out.begin() + long(from), out.end(), loud);
+  const auto last = std::find_if(out.rbegin(), out.rend() - long(from), loud).base();
+  if (first >= last) return out.resize(from);
+  const long margin = long(rate) * kMarginMs / 1000;
+  const auto begin = std::max(out.begin() + long(from), first - margin);
+  const auto end = std::min(out.end(), last + margin);
+  out.erase(end, out.end());
+  out.erase(out.begin() + long(from), begin);
 }
 
 bool writeVoices(const WorldVoices& voices, const QString& folder) {
@@ -119,6 +135,7 @@ WorldVoices synthesize(const QList<SpokenLine>& lines, const World& w) {
       selectVoice(speaker, w);
       const size_t start = samples.size();
       speak(piecesIn(line, w).join(u' '), samples);
+      trimSilence(samples, start, rate);
       const size_t end = samples.size();
       samples.resize(end + size_t(rate) * kGapMs / 1000, 0);
       byNumber[line.convName] = {line.convName, file, int(start * 1000 / size_t(rate)),
