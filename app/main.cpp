@@ -8,6 +8,7 @@
 #include "shell/game_state.h"
 #include "shell/gamestart.h"
 #include "shell/help_window.h"
+#include "shell/loadingsrn.h"
 #include "shell/postcard.h"
 #include "shell/run_settings.h"
 #include "shell/screen_instance.h"
@@ -39,14 +40,18 @@ bool setUpHunt() {
   return accepted;
 }
 
-// The hunt runs on the hunting screen from the place the new-hunt screen chose.
+// The hunt runs on the hunting screen from the place the new-hunt screen chose; the loading
+// screen covers the wait and goes when the hunting screen first paints.
 void startHunting() {
   if (!setUpHunt()) {
     QCoreApplication::quit();
     return;
   }
+  Loadingsrn& loading = ScreenInstance<Loadingsrn>::get();
+  loading.Form_Load();
+  loading.showFullScreen();
+  QCoreApplication::processEvents();
   surround& hunting = ScreenInstance<surround>::get();
-  hunting.Form_Load();
   hunting.Surrinit();
   showGameScreen(hunting);
 }

@@ -34,6 +34,18 @@ namespace {
 constexpr int kTickMs = 5500;
 constexpr int kDeferredMoveMs = 30;
 
+// The shell loads the hunting screen at start-up, and when its timer is switched before it
+// exists.
+[[maybe_unused]] const bool kLoaderRegistered = [] {
+  setHuntScreenLoader([](bool openPlace) {
+    const bool loaded = ScreenInstance<surround>::exists();
+    surround& hunting = ScreenInstance<surround>::get();
+    if (!loaded) hunting.Form_Load();
+    if (openPlace) hunting.Surrinit();
+  });
+  return true;
+}();
+
 std::function<void()>& restartHandler() {
   static std::function<void()> handler;
   return handler;
@@ -74,7 +86,7 @@ surround::surround()
   setWindowTitle(QStringLiteral("Hunting"));
   setObjectName(QStringLiteral("surround"));
   MCIWnd1->hide();
-  Sleeppic->setScaledContents(true);
+  Sleeppic->setKeepShape(true);
   Sleeppic->hide();
   opticspic->hide();
   SVControl2->widget()->hide();
@@ -254,15 +266,14 @@ void surround::placeWidgets() {
 
 void surround::paintEvent(QPaintEvent* event) {
   QWidget::paintEvent(event);
-  // The loading screen stays up until the hunting screen has drawn itself once.
-  if (!painted_ && ScreenInstance<Loadingsrn>::exists())
+  // The loading screen stays up until the hunting screen has drawn itself.
+  if (ScreenInstance<Loadingsrn>::exists())
     QTimer::singleShot(0, [] { ScreenInstance<Loadingsrn>::unload(); });
-  painted_ = true;
 }
 
 bool surround::Form_QueryUnload() {
   return platform::MsgBox(QStringLiteral("Do you want to exit the program."), platform::Buttons::YesNo,
-                          platform::Icon::Question, QStringLiteral("Quit Program")) != platform::Answer::No;
+                          platform::Icon::None, QStringLiteral("Quit Program")) != platform::Answer::No;
 }
 
 void surround::closeEvent(QCloseEvent* event) {

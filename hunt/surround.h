@@ -146,6 +146,7 @@ class surround : public QWidget {
   void showPlaceText(const QString& extra = {});
   void openLicence(int16_t mode);
   void moveToRecordedPlace(const QString& path);
+  void arriveAt(int16_t placeType);
 
   // Navigation.
   void walkTo(const QString& name);
@@ -182,7 +183,6 @@ class surround : public QWidget {
   int16_t opticsLevel() const;
 
   bool walking_ = false;
-  bool painted_ = false;
   int32_t heading1_ = 0;
   int32_t heading2_ = 0;
   int16_t opticsStand_ = -1;  // the stand the optics view holds

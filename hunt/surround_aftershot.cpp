@@ -55,7 +55,8 @@ void surround::Scopeon() {
 
 void surround::Scopeoff() {
   if (!Game.OpticsUp) return;
-  svcontrol1->SetHeading(SVControl2->Heading());
+  // The main view turns to where the optics last looked.
+  svcontrol1->SetHeading(heading2_);
   svcontrol1->widget()->show();
   SVControl2->widget()->hide();
   opticspic->hide();
@@ -126,6 +127,7 @@ void surround::killHandling(int16_t species) {
   if (species >= 1 && species < kTagCount)
     Game.TagsOwned[species] = tagAfterKill(Game.TagsOwned[species], Game.TagLimit[species]);
   Game.WoundedFlag = 0;
+  Game.TrackedSpecies = 0;
   Game.CurAnimal = 0;
   Game.PendingMove = 1;
 }
@@ -149,7 +151,7 @@ void surround::bodyHit() {
   if (Game.VideosOn) playTrackingFilm();
   AddTimeNoChk(15, QStringLiteral("n"));
   Say(QStringLiteral("newstand"));
-  Game.PlaceMode = 3;
+  arriveAt(3);
   Game.PendingMove = 3;
 }
 

@@ -18,6 +18,8 @@
 #include <QApplication>
 #include <QTimer>
 
+#include <filesystem>
+
 namespace {
 
 constexpr int32_t kFacingSouth = 648000;
@@ -50,7 +52,7 @@ void surround::ChangeWep_Click() {
 void surround::Campbut_Click() {
   Scopeoff();
   loadPanorama(campLocation(), svcontrol1->Heading());
-  Game.PlaceMode = 2;
+  arriveAt(2);
   Setheadbox();
   AddTime(1, QStringLiteral("h"));
 }
@@ -68,7 +70,7 @@ void surround::moveToRecordedPlace(const QString& path) {
   Scopeoff();
   const auto place = findLocation(path);
   if (!place) return;
-  Game.PlaceMode = place->loctype;
+  arriveAt(place->loctype);
   loadPanorama(place->filejump, svcontrol1->Heading());
   Setheadbox();
 }
@@ -104,8 +106,10 @@ void surround::btnMdnweb_Click() {
 
 void surround::btnQuillonweb_Click() {
   Timer2->stop();
-  const QString localPage = Game.MediaRoot + QStringLiteral("qlpage\\index.htm");
-  OpenWebPage(this, platform::files().exists(localPage) ? localPage : kPublisherSite);
+  std::error_code ec;
+  const bool localPages =
+      std::filesystem::is_directory(platform::files().resolve(Game.MediaRoot + QStringLiteral("qlpage")), ec);
+  OpenWebPage(this, localPages ? Game.MediaRoot + QStringLiteral("qlpage\\index.htm") : kPublisherSite);
 }
 
 void surround::btnRedfern_Click() {

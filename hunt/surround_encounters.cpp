@@ -39,6 +39,8 @@ QString recordFile(const QString& name, bool perArea) {
 }  // namespace
 
 void surround::Timer2_Timer() {
+  // While a clip plays the hunt stands still; the timer runs on and the tick comes again.
+  if (Game.VideoBusy != 0) return;
   Timer2->stop();
   if (Game.PlaceMode == 3) tickEvents();
   Game.CallUsed = 0;
@@ -53,6 +55,7 @@ void surround::tickEvents() {
     reseed();
     if (draw(100) > 80 || Game.ZoneValue == 10) {
       Game.WoundedFlag = 0;
+      Game.TrackedSpecies = 0;
       Game.CurAnimal = 0;
       Say(QStringLiteral("escape"));
     }

@@ -94,6 +94,12 @@ void surround::SVControl2_OnLeaveHotspot(const QString& name) {
   leaveHotspot(*SVControl2, name);
 }
 
+// The lodge greets the hunter each time he comes in from elsewhere.
+void surround::arriveAt(int16_t placeType) {
+  if (placeType == 0 && Game.PlaceMode != 0) Game.FirstArrival = 1;
+  Game.PlaceMode = placeType;
+}
+
 void surround::enterHotspot(platform::SVControl& view, const QString& name) {
   view.SetTracking(false);
   // The host greets the hunter once per arrival at the lodge.
@@ -123,7 +129,7 @@ void surround::SVEnterHotspot(const QString& name) {
     showPlaceText(place->description);
     Game.RangeYards = place->yards;
     if (Game.OpticsUp && opticsLevel() > 4) {
-      Rangelab->setText(QString::number(place->yards).trimmed() + QStringLiteral(" yards"));
+      Rangelab->setText(QString::number(place->yards));
       Rangelab->show();
     }
     if (Game.TrackedSpecies > 0 && place->hypername.trimmed().toUpper() == Game.WoundedPlace)
@@ -155,7 +161,10 @@ void surround::SVControl1_OnSelectHotspot(const QString& name) {
   const QString rest = name.mid(1);
   switch (kind.unicode()) {
     case u'^': walkTo(name); break;
-    case u'@': InitSaylist(rest); break;
+    case u'@':
+      Game.ConversationDone = 0;
+      InitSaylist(rest);
+      break;
     case u'!': showModalScreen<Catalog>(); break;
     case u'*': openLicence(1); break;
     case u'+':
@@ -186,18 +195,13 @@ void surround::walkTo(const QString& name) {
     }
     walking_ = false;
   }
-  Game.PlaceMode = place->loctype;
+  arriveAt(place->loctype);
   Game.StartPano = place->filejump;
   switch (Game.PlaceMode) {
     case 2: AddTimeNoChk(2, QStringLiteral("h")); break;
     case 1: Saynotext(QStringLiteral("chstand")); break;
     case 3: enterField(*place); break;
     default: break;
-  }
-  // The head box always says where the hunter stands, not only in the field.
-  if (Game.PlaceMode != 3) {
-    Game.CurLocation = place->description;
-    showPlaceText();
   }
   loadPanorama(place->filejump, int32_t(rt::Int(place->heading * 3600.0)));
   Setheadbox();
@@ -215,7 +219,7 @@ void surround::enterField(LocationRecord& place) {
   if (Game.CurWeapon == 0) {
     if (auto camp = findLocation(QStringLiteral("^camp"))) {
       place = *camp;
-      Game.PlaceMode = camp->loctype;
+      arriveAt(camp->loctype);
     }
   }
   Game.CurLocation = place.description;
@@ -245,7 +249,6 @@ void surround::playFilm(const QString& name) {
   Aviplay& film = ScreenInstance<Aviplay>::get();
   platform::screensHost().ShowModal(film);
   ScreenInstance<Aviplay>::unload();
-  Game.ScreenState.clear();
 }
 
 void surround::enterRange() {
@@ -253,7 +256,7 @@ void surround::enterRange() {
   showModalScreen<Weapons>();
   QApplication::processEvents();
   loadPanorama(rangeLocation(), svcontrol1->Heading());
-  Game.PlaceMode = 5;
+  arriveAt(5);
   Setheadbox();
 }
 

@@ -77,7 +77,7 @@ void Hunttest::readQuestions(int start) {
     for (int i = 0; i < lodge::kTestQuestions; ++i) {
       answers_[i] = in.inputInt16();
       questions_[i] = in.inputString();
-      Question[i]->setText(QString::number(i + 1) + QStringLiteral(". ") + questions_[i]);
+      Question[i]->setText(questions_[i]);
     }
   } catch (const std::exception&) {
     // A short or missing file leaves the questions read so far; the rest stay blank.
@@ -127,8 +127,12 @@ QString Hunttest::testSheet() const {
 }
 
 void Hunttest::printbut_Click() {
+  platform::printer().setPdfFolder(Game.Fileloc);
   const platform::PrintResult result = platform::printer().PrintText(testSheet(), kTitle);
-  if (!result.pdfPath.isEmpty())
+  if (!result.printed)
+    platform::MsgBox(QStringLiteral("The test can't be printed."), platform::Buttons::Ok,
+                     platform::Icon::Exclamation, kTitle);
+  else if (!result.pdfPath.isEmpty())
     platform::MsgBox(QStringLiteral("There is no printer; the test was saved as ") + result.pdfPath + u'.',
                      platform::Buttons::Ok, platform::Icon::Information, kTitle);
 }

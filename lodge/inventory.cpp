@@ -5,10 +5,10 @@
 #include "lodge/catalog_rules.h"
 #include "lodge/equipment_slots.h"
 #include "lodge/lodge_frame.h"
-#include "lodge/logging.h"
 #include "platform/picture_box.h"
 #include "platform/pictures.h"
 #include "platform/resize_widget.h"
+#include "platform/runtime.h"
 #include "shell/game_state.h"
 #include "shell/names.h"
 
@@ -143,10 +143,9 @@ void Inventory::dwMList_DblClick() {
   const auto record = lodge::Lookupitem(item);
   if (!record) return;
   const int slot = record->subCatNumber;
-  if (slot < 0 || slot > lodge::kLastSlot) {
-    qCWarning(lodgeLog) << "item" << item << "names slot" << slot << ", which does not exist";
-    return;
-  }
+  // A slot the hunter does not have is the runtime's subscript error, raised before anything
+  // is stored.
+  if (slot < 0 || slot > lodge::kLastSlot) throw rt::SubscriptOutOfRange();
   // Whatever the slot held is replaced; it stays owned.
   Game.EquipSlots[slot] = item;
   if (slot >= lodge::kFirstSlot) {

@@ -116,8 +116,8 @@ void Licence::Form_Load() {
   lodge::placeOverHuntingScreen(*this);
   Background->setPicturePath(lodge::lodgeArtPath(QStringLiteral("license.bmp")));
   Game.TagSpecies = 0;
-  // Every species counts as living here until the world's file says otherwise.
-  habitat_.fill(1);
+  // A short or missing world file leaves 0 for the species it does not name.
+  habitat_.fill(0);
   readTables();
   for (int species = 1; species <= kSpeciesCount; ++species) showTag(species);
   if (Game.ScreenMode == kBuyMode) Promptlab->setText(QStringLiteral("What tag do you want to buy?"));

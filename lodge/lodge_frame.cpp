@@ -3,6 +3,7 @@
 
 #include "platform/runtime.h"
 #include "shell/game_state.h"
+#include "shell/screen_layout.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -69,11 +70,15 @@ QString lodgeArtPath(const QString& name) {
 void placeOverHuntingScreen(QWidget& screen) {
   const int twips = std::max<int>(1, Game.TwipsPerPixel);
   const QRect hunt = huntingScreenRect();
-  if (Game.LayoutW > 0 && Game.LayoutY > 0) screen.resize(Game.LayoutW / twips, Game.LayoutY / twips);
-  const int left = hunt.left() + Game.LayoutX / twips;
-  // The 1024 offset is wider than a 1024 screen leaves free; never hang off its right edge.
-  const int x = std::max(hunt.left(), std::min(left, hunt.right() + 1 - screen.width()));
-  screen.move(x, hunt.top() + kTopOffsetTwips / twips);
+  QSize size = screen.size();
+  if (Game.LayoutW > 0 && Game.LayoutY > 0) size = QSize(Game.LayoutW / twips, Game.LayoutY / twips);
+  // On a display larger than the layout's, the board grows with it, keeping its shape.
+  const QSize made = layoutDisplayPixels();
+  const double grow =
+      std::max(1.0, std::min(double(hunt.width()) / made.width(), double(hunt.height()) / made.height()));
+  screen.resize(size * grow);
+  // Centred: the shared left offset does not fit a 1024 screen, nor any wider one.
+  screen.move(hunt.left() + (hunt.width() - screen.width()) / 2, hunt.top() + kTopOffsetTwips / twips);
 }
 
 }  // namespace lodge

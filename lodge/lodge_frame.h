@@ -26,8 +26,8 @@ QString moneyText(int16_t money);
 // The world's picture `name` behind a lodge screen: art\ + area letter + name.
 QString lodgeArtPath(const QString& name);
 
-// Left edge of the hunting screen plus the shared offset, its top plus 60 twips, the shared
-// width and height; kept inside the hunting screen where the offset would push it off.
+// Centred over the hunting screen at its top plus 60 twips, at the shared width and height,
+// grown with its shape kept on a display larger than the layout was made for.
 void placeOverHuntingScreen(QWidget& screen);
 
 }  // namespace lodge

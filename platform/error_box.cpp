@@ -17,6 +17,8 @@ QString messageFor(std::exception_ptr error, const QString& where) {
     std::rethrow_exception(error);
   } catch (const rt::OverflowError&) {
     return kOverflowText;
+  } catch (const rt::SubscriptOutOfRange&) {
+    return kSubscriptText;
   } catch (const std::exception& thrown) {
     what = QString::fromUtf8(thrown.what());
   } catch (...) {

@@ -10,6 +10,7 @@
 namespace platform {
 
 inline const QString kOverflowText = QStringLiteral("Run-time error '6': Overflow");
+inline const QString kSubscriptText = QStringLiteral("Run-time error '9': Subscript out of range");
 
 // Shows the box for `error`, caught while `where` ran (a screen and its event, say).
 void ReportEscapedError(std::exception_ptr error, const QString& where);

@@ -15,12 +15,18 @@ class PictureBox : public QLabel {
   void setPicturePath(const QString& gamePath);
   const QString& picturePath() const { return path_; }
   void onClick(std::function<void()> handler) { click_ = std::move(handler); }
+  // A full-screen picture keeps its shape: scaled to fit, centred between dark bars.
+  void setKeepShape(bool keep);
+  // Where the picture is drawn inside the box.
+  QRect pictureRect() const;
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   QString path_;
+  bool keepShape_ = false;
   std::function<void()> click_;
 };
 

@@ -9,7 +9,8 @@
 
 namespace platform {
 
-ReSize::ReSize(QWidget* screen, QSize design) : QObject(screen), screen_(screen), design_(design) {
+ReSize::ReSize(QWidget* screen, QSize design, Fit fit)
+    : QObject(screen), screen_(screen), design_(design), fit_(fit) {
   screen->installEventFilter(this);
 }
 
@@ -20,18 +21,28 @@ void ReSize::place(QWidget* child, QRect designRect, int designPointSize) {
 }
 
 double ReSize::scaleX() const {
-  return static_cast<double>(screen_->width()) / design_.width();
+  const double sx = static_cast<double>(screen_->width()) / design_.width();
+  return fit_ == Fit::KeepShape ? std::min(sx, static_cast<double>(screen_->height()) / design_.height())
+                                : sx;
 }
 double ReSize::scaleY() const {
-  return static_cast<double>(screen_->height()) / design_.height();
+  const double sy = static_cast<double>(screen_->height()) / design_.height();
+  return fit_ == Fit::KeepShape ? std::min(sy, static_cast<double>(screen_->width()) / design_.width()) : sy;
+}
+
+QPoint ReSize::origin() const {
+  return {static_cast<int>(std::lround((screen_->width() - design_.width() * scaleX()) / 2)),
+          static_cast<int>(std::lround((screen_->height() - design_.height() * scaleY()) / 2))};
 }
 
 void ReSize::apply() {
   const double sx = scaleX();
   const double sy = scaleY();
+  const QPoint at = origin();
   for (auto& [child, placement] : placements_) {
     const QRect& r = placement.rect;
-    child->setGeometry(static_cast<int>(std::lround(r.x() * sx)), static_cast<int>(std::lround(r.y() * sy)),
+    child->setGeometry(at.x() + static_cast<int>(std::lround(r.x() * sx)),
+                       at.y() + static_cast<int>(std::lround(r.y() * sy)),
                        static_cast<int>(std::lround(r.width() * sx)),
                        static_cast<int>(std::lround(r.height() * sy)));
     if (placement.pointSize > 0) {

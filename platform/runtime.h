@@ -16,6 +16,12 @@ class OverflowError : public std::runtime_error {
   OverflowError() : std::runtime_error("Overflow") {}
 };
 
+// Raised when an index lies outside its array; nothing is stored.
+class SubscriptOutOfRange : public std::runtime_error {
+ public:
+  SubscriptOutOfRange() : std::runtime_error("Subscript out of range") {}
+};
+
 // Raised when a text cannot be read as the number a reader asked for.
 class TypeMismatch : public std::runtime_error {
  public:

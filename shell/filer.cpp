@@ -70,9 +70,10 @@ void Filer::placeWidgets() {
   Resgamebut = button(QStringLiteral("New Game"), {150, 310, 160, 30}, &Filer::Resgamebut_Click);
   Exitgamebut = button(QStringLiteral("Exit Game"), {330, 310, 160, 30}, &Filer::Exitgamebut_Click);
   Aboutbox = button(QStringLiteral("About"), {150, 345, 105, 30}, &Filer::Aboutbox_Click);
-  btnHelp = button(QStringLiteral("Help"), {268, 345, 105, 30}, &Filer::btnHelp_Click);
+  // Help stays on both faces, in a corner of its own.
+  btnHelp = button(QStringLiteral("Help"), {530, 436, 90, 28}, &Filer::btnHelp_Click);
   btnColdwater = button(QStringLiteral("Coldwater"), {385, 345, 105, 30}, &Filer::btnColdwater_Click);
-  btnTamsin = button(QStringLiteral("Tamsin"), {268, 380, 105, 30}, &Filer::btnTamsin_Click);
+  btnTamsin = button(QStringLiteral("Tamsin"), {268, 345, 105, 30}, &Filer::btnTamsin_Click);
   // File face: name box and list under the heading, actions below.
   resize_->place(Usename, {170, 200, 300, 26}, 11);
   resize_->place(List1, {170, 230, 300, 150}, 11);
@@ -100,7 +101,6 @@ void Filer::Form_Load() {
 
 void Filer::ClearMainbuttons() {
   for (QPushButton* b : mainButtons()) b->hide();
-  btnHelp->hide();
 }
 
 void Filer::resetbuttons() {
@@ -270,6 +270,12 @@ void Filer::btnTamsin_Click() {
 
 void Filer::btnColdwater_Click() {
   OpenWebPage(this, Game.MediaRoot + "coldwater\\index.htm");
+}
+
+// Escape and the window's close button leave the menu as Cancel would.
+void Filer::reject() {
+  Game.ScreenState = QStringLiteral("CANCEL");
+  QDialog::reject();
 }
 
 void Filer::closeWith(const QString& handOver) {

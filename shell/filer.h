@@ -66,6 +66,8 @@ class Filer : public QDialog {
   QListWidget* List1;
 
   char kind() const { return kind_; }
+  // Escape and the window's close button: the hand-over word is "CANCEL".
+  void reject() override;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

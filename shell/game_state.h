@@ -101,20 +101,21 @@ struct GameState {
 
   // Further shared values the screens hand to each other; not saved.
   std::array<int16_t, kTagCount> TagLimit{};  // animals a tag allows, species 1..16
-  int16_t ScreenMode = 0;      // why a reused screen opened: tags 1 buy, 2 quarry; record book 3, 4
-  int16_t PendingMove = 0;     // move after the shot: 1 camp, 2 jail, 3 stand
-  int16_t FirstArrival = 0;    // set on arriving at the lodge from elsewhere
-  int16_t MediaBusy = 0;       // a sound of a lodge screen is playing
-  int16_t VideoReturn = 0;     // what the clip player returns to
-  int16_t AviTracking = 0;     // the clip about to play is a tracking film
-  int16_t MissDirection = 0;   // miss direction code of the last shot
-  int16_t DamagedTrophy = 0;   // the trophy was spoiled by the shot
-  int16_t TrackedSpecies = 0;  // species of the wounded animal being tracked
-  int16_t ShotYards = 0;       // distance of the last shot
-  QString WoundedPlace;        // the trail point where the wounded animal lies, upper-cased
-  bool VideosOn = true;        // intro, area and tracking films
-  bool TestRewarded = false;   // the hunter's test prizes were paid this hunt
-  bool SponsorOn = true;       // the world has a sponsor and its pages
+  int16_t ScreenMode = 0;        // why a reused screen opened: tags 1 buy, 2 quarry; record book 3, 4
+  int16_t PendingMove = 0;       // move after the shot: 1 camp, 2 jail, 3 stand
+  int16_t FirstArrival = 0;      // set on arriving at the lodge from elsewhere
+  int16_t ConversationDone = 0;  // cleared as a conversation starts; nothing else uses it yet
+  int16_t MediaBusy = 0;         // a sound of a lodge screen is playing
+  int16_t VideoReturn = 0;       // what the clip player returns to
+  int16_t AviTracking = 0;       // the clip about to play is a tracking film
+  int16_t MissDirection = 0;     // miss direction code of the last shot
+  int16_t DamagedTrophy = 0;     // the trophy was spoiled by the shot
+  int16_t TrackedSpecies = 0;    // species of the wounded animal being tracked
+  int16_t ShotYards = 0;         // distance of the last shot
+  QString WoundedPlace;          // the trail point where the wounded animal lies, upper-cased
+  bool VideosOn = true;          // intro, area and tracking films
+  bool TestRewarded = false;     // the hunter's test prizes were paid this hunt
+  bool SponsorOn = true;         // the world has a sponsor and its pages
   // The conversation in progress: the numbers of its recorded lines, how many, and the stretch
   // of sound of the line now current. The list position is SayIndex.
   std::array<int16_t, kConvLineCount> ConvLines{};

@@ -3,6 +3,7 @@
 
 #include "platform/dialogs.h"
 #include "platform/media/media_window.h"
+#include "platform/picture_box.h"
 #include "platform/runtime.h"
 #include "shell/game_state.h"
 #include "shell/loadingsrn.h"
@@ -11,6 +12,7 @@
 #include "shell/save_files.h"
 #include "shell/screen_instance.h"
 #include "shell/screen_layout.h"
+#include "shell/shared_procedures.h"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -32,9 +34,13 @@ QString joinMessageLines(const QStringList& lines) {
   return lines.join(QStringLiteral("\n\r"));
 }
 
-Gamestart::Gamestart() : MCIWnd1(platform::createMediaWindow(this)) {
+Gamestart::Gamestart()
+    : MCIWnd1(platform::createMediaWindow(this)), Titlepic(new platform::PictureBox(this)) {
   setWindowTitle(QStringLiteral("Hunting"));
   setStyleSheet(QStringLiteral("Gamestart { background: black; }"));
+  // The game's name stands behind the first questions and the intro.
+  Titlepic->setKeepShape(true);
+  Titlepic->lower();
   MCIWnd1->hide();
   MCIWnd1->installEventFilter(this);
   installEventFilter(this);
@@ -68,6 +74,8 @@ void Gamestart::Form_Load() {
                        video.height());
   Game.HelpFile = Game.MediaRoot + QStringLiteral("varnholt.hlp");
   SetScreenLayout();
+  Titlepic->setPicturePath(Game.MediaRoot + QStringLiteral("art\\") + Game.ResCode +
+                           QStringLiteral("splash.bmp"));
   ScreenInstance<Postcard>::get();
   ScreenInstance<Loadingsrn>::get();
 }
@@ -89,6 +97,7 @@ bool Gamestart::Form_Activate() {
   ReadSaveFile(Game.MediaRoot + QStringLiteral("data\\newgam.csv"), kGameKind);
   ScreenInstance<Postcard>::get().Form_Load();
   ScreenInstance<Loadingsrn>::unload();
+  LoadHuntScreen(true);
   unsetCursor();
   close();
   return true;
@@ -117,6 +126,11 @@ void Gamestart::playIntro() {
   Game.VideoBusy = 0;
   MCIWnd1->command(QStringLiteral("Close"));
   MCIWnd1->hide();
+}
+
+void Gamestart::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  Titlepic->setGeometry(rect());
 }
 
 bool Gamestart::eventFilter(QObject* watched, QEvent* event) {

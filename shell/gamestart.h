@@ -11,7 +11,8 @@
 
 namespace platform {
 class MCIWnd;
-}
+class PictureBox;
+}  // namespace platform
 
 class Gamestart : public QDialog {
   Q_OBJECT
@@ -34,12 +35,14 @@ class Gamestart : public QDialog {
   static int introScale(int screenHeightPixels, bool naturalSize);
 
   platform::MCIWnd* MCIWnd1;
+  platform::PictureBox* Titlepic;  // the title picture behind the questions
   int screenHeightTwips() const { return screenHeight_; }
   bool programEnded() const { return ended_; }
   bool introFinished() const { return introFinished_; }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void readScreenGeometry();

@@ -8,6 +8,7 @@
 
 Loadingsrn::Loadingsrn() : Picture(new platform::PictureBox(this)) {
   setWindowTitle(QStringLiteral("Loading"));
+  Picture->setKeepShape(true);
   setStyleSheet(QStringLiteral("Loadingsrn { background: black; }"));
 }
 

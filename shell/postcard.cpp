@@ -41,13 +41,16 @@ Postcard::Postcard()
       qhunt(new QPushButton(QStringLiteral("Quick Hunt"), this)),
       Description(new QTextEdit(this)),
       Starthint(new QLabel(QStringLiteral("Click the picture to start your hunt"), this)),
-      resize_(new platform::ReSize(this, kDesign)) {
+      resize_(new platform::ReSize(this, kDesign, platform::ReSize::Fit::KeepShape)) {
   setWindowTitle(QStringLiteral("New Hunt"));
   resize(kDesign);
   qhunt->setCheckable(true);
   Description->setReadOnly(true);
-  // Paper behind the artwork, so the card reads as a card even before its picture loads.
-  setStyleSheet(QStringLiteral("Postcard { background: #e9dfc6; }"));
+  // The card keeps its shape between dark bars; paper behind its artwork, so the card reads
+  // as a card even before its picture loads.
+  setStyleSheet(QStringLiteral("Postcard { background: black; }"));
+  Picture->setStyleSheet(QStringLiteral("background: #e9dfc6;"));
+  styleQuickHuntToggle();
   Image2->setCursor(Qt::PointingHandCursor);
   Image2->setToolTip(QStringLiteral("Click the picture to start the hunt"));
   Image2->setFrameShape(QFrame::Box);
@@ -73,6 +76,21 @@ Postcard::Postcard()
   setbox();
 }
 
+// The quick hunt is a switch, not a start button: it shows whether it is on, lit when it is.
+void Postcard::styleQuickHuntToggle() {
+  qhunt->setObjectName(QStringLiteral("qhunt"));
+  qhunt->setStyleSheet(QStringLiteral(
+      "QPushButton#qhunt { color: #3b2f1e; background: #d8ccb0; border: 2px outset #8a7a5a;"
+      " border-radius: 6px; padding: 2px 8px; text-align: left; }"
+      "QPushButton#qhunt:checked { color: #1d1405; background: #f2c94c; border: 2px inset #8a5a00;"
+      " font-weight: bold; }"));
+  const auto showState = [this](bool on) {
+    qhunt->setText(on ? QStringLiteral("\u25C9  Quick Hunt: On") : QStringLiteral("\u25CB  Quick Hunt: Off"));
+  };
+  connect(qhunt, &QPushButton::toggled, this, showState);
+  showState(qhunt->isChecked());
+}
+
 void Postcard::placeWidgets() {
   resize_->place(Picture, QRect(QPoint(0, 0), kDesign));
   resize_->place(Nextbox, {420, 330, 150, 34}, 12);
@@ -83,7 +101,7 @@ void Postcard::placeWidgets() {
   for (int i = 0; i < 4; ++i) resize_->place(Selectworld[i], {350, 60 + 38 * i, 130, 32}, 11);
   for (int i = 0; i < 3; ++i) resize_->place(Diffbutton[i], {495, 64 + 34 * i, 125, 28}, 10);
   resize_->place(Namebox, {350, 230, 270, 28}, 11);
-  resize_->place(qhunt, {350, 270, 130, 32}, 11);
+  resize_->place(qhunt, {350, 270, 180, 32}, 11);
 }
 
 void Postcard::setbox() {

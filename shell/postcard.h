@@ -49,6 +49,7 @@ class Postcard : public QDialog {
 
  private:
   void placeWidgets();
+  void styleQuickHuntToggle();
   void finish();
 
   platform::ReSize* resize_;

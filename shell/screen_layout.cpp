@@ -58,6 +58,12 @@ void SetScreenLayout() {
   if (w >= 1024 * t) apply(k1024, t);
 }
 
+QSize layoutDisplayPixels() {
+  if (Game.ResCode == u"6") return {640, 480};
+  if (Game.ResCode == u"8") return {800, 600};
+  return {1024, 768};
+}
+
 void SetWeaponSight() {
   const int n = Game.CurWeapon;
   if (n < 1 || n > 9) return;

@@ -13,6 +13,17 @@ std::function<void(bool)>& huntTimerSwitch() {
   return onOff;
 }
 
+std::function<void(bool)>& huntScreenLoader() {
+  static std::function<void(bool)> load;
+  return load;
+}
+
+// The hunting screen registers its timer switch as it is created.
+void switchHuntTimer(bool on) {
+  if (!huntTimerSwitch()) LoadHuntScreen(false);
+  if (huntTimerSwitch()) huntTimerSwitch()(on);
+}
+
 std::function<void()>& huntMediaCloser() {
   static std::function<void()> close;
   return close;
@@ -63,12 +74,20 @@ void setHuntTimerSwitch(std::function<void(bool)> onOff) {
   huntTimerSwitch() = std::move(onOff);
 }
 
+void setHuntScreenLoader(std::function<void(bool)> load) {
+  huntScreenLoader() = std::move(load);
+}
+
+void LoadHuntScreen(bool openPlace) {
+  if (huntScreenLoader()) huntScreenLoader()(openPlace);
+}
+
 void StartHuntTimer() {
-  if (huntTimerSwitch()) huntTimerSwitch()(true);
+  switchHuntTimer(true);
 }
 
 void StopHuntTimer() {
-  if (huntTimerSwitch()) huntTimerSwitch()(false);
+  switchHuntTimer(false);
 }
 
 void setHuntClockDisplay(std::function<void()> refresh) {

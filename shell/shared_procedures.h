@@ -17,9 +17,14 @@ int OpenWebPage(QWidget* owner, const QString& target);
 // than `n` millionths of a day (86.4 ms each).
 void WaitTicks(int n);
 
-// The hunting screen tells the shell how its timer is switched (creating the screen first
-// when needed); the shell library cannot see that screen.
+// The hunting screen tells the shell how it is loaded and how its timer is switched; the
+// shell library cannot see that screen. Switching the timer loads the screen first when it
+// does not exist.
 void setHuntTimerSwitch(std::function<void(bool on)> onOff);
+void setHuntScreenLoader(std::function<void(bool openPlace)> load);
+// Loads the hunting screen when it does not exist; with `openPlace` it (re)opens the current
+// place as well.
+void LoadHuntScreen(bool openPlace);
 void StartHuntTimer();
 void StopHuntTimer();
 

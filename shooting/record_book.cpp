@@ -18,7 +18,7 @@
 namespace {
 
 constexpr QSize kDesign{640, 480};
-constexpr QRect kGridRect{30, 150, 580, 270};
+constexpr QRect kGridRect{30, 186, 580, 240};
 // Shares of the room left in the grid's width, given most to the columns whose texts vary most.
 constexpr int kColumnShares[kTrophyColumns] = {14, 10, 25, 11, 10, 19, 9, 17, 11};
 // Rows kept when the grid is cleared: the headings and one row under them.
@@ -39,13 +39,15 @@ RecordBook::RecordBook()
       Catnext(new QPushButton(QStringLiteral("Next >>"), this)),
       Closebox(new QPushButton(QStringLiteral("Close"), this)),
       VsData10(std::make_unique<platform::RecordData>()),
-      resize_(new platform::ReSize(this, kDesign)) {
+      resize_(new platform::ReSize(this, kDesign, platform::ReSize::Fit::KeepShape)) {
   setWindowTitle(QStringLiteral("Record Book"));
   setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
   setStyleSheet(
-      QStringLiteral("RecordBook { background: #3a2a1a; } QLabel { color: #f4e8c8; }"
+      QStringLiteral("RecordBook { background: #1b140c; } QLabel#Specieslab { color: #3a2410; }"
                      "QTableWidget { background: #f6efdc; color: #1e160c; gridline-color: #b8a880; }"));
+  Specieslab->setObjectName(QStringLiteral("Specieslab"));
   Specieslab->setAlignment(Qt::AlignCenter);
+  Specieslab->setWordWrap(true);
   QFont bold = Specieslab->font();
   bold.setBold(true);
   Specieslab->setFont(bold);
@@ -64,8 +66,10 @@ RecordBook::~RecordBook() = default;
 
 void RecordBook::placeWidgets() {
   resize_->place(Background, QRect(QPoint(0, 0), kDesign));
-  resize_->place(Trophypic, {30, 20, 160, 120});
-  resize_->place(Specieslab, {210, 60, 400, 40}, 20);
+  // The book's painted title heads the left page; the species' picture sits under it and its
+  // name in ink on the right page, clear of the gutter.
+  resize_->place(Trophypic, {44, 60, 160, 120});
+  resize_->place(Specieslab, {372, 84, 230, 64}, 18);
   resize_->place(VSFMyGrid, kGridRect, 7);
   resize_->place(catback, {150, 432, 100, 30}, 10);
   resize_->place(Catnext, {270, 432, 100, 30}, 10);

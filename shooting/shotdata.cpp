@@ -2,6 +2,7 @@
 #include "shooting/shotdata.h"
 
 #include "platform/dialogs.h"
+#include "platform/error_box.h"
 #include "platform/files.h"
 #include "platform/picture_box.h"
 #include "platform/printer.h"
@@ -45,11 +46,12 @@ Shotdata::Shotdata()
       Awardlab(new QLabel(this)),
       printbut(new QPushButton(QStringLiteral("Print"), this)),
       Closebox(new QPushButton(QStringLiteral("Close"), this)),
-      resize_(new platform::ReSize(this, kDesign)) {
+      resize_(new platform::ReSize(this, kDesign, platform::ReSize::Fit::KeepShape)) {
   setWindowTitle(kTitle);
   setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
-  // Parchment behind the artwork, dark ink on it.
-  setStyleSheet(QStringLiteral("Shotdata { background: #efe4c8; } QLabel { color: #2a1e10; }"));
+  // The page keeps its shape between dark bars; parchment behind the artwork, dark ink on it.
+  setStyleSheet(QStringLiteral("Shotdata { background: #1b140c; } QLabel { color: #2a1e10; }"));
+  Awardpic->setStyleSheet(QStringLiteral("background: #efe4c8;"));
   Trophypic->setFrameShape(QFrame::Box);
   Trophypic->setLineWidth(3);
   Specieslab->setAlignment(Qt::AlignCenter);
@@ -126,11 +128,19 @@ void Shotdata::payAward(double weightBefore) {
   if (!awardDue(weightBefore, Game.TrophyWeight, Game.DamagedTrophy != 0)) return;
   const int species = Game.CurAnimal >= 0 && Game.CurAnimal < 17 ? Game.CurAnimal : 0;
   award_ = awardAmount(awardBases_[species], rnd);
-  Game.Money = rt::add16(Game.Money, rt::to16(award_));
+  // An overflowing wallet is reported, and the kill is still recorded and tagged.
+  try {
+    Game.Money = rt::add16(Game.Money, rt::to16(award_));
+  } catch (const rt::OverflowError&) {
+    platform::ReportEscapedError(std::current_exception(), QStringLiteral("Shotdata Examineshot"));
+    award_ = 0;
+    return;
+  }
   Awardlab->setText(awardMessage(Game.SponsorOn, award_));
 }
 
 void Shotdata::printbut_Click() {
+  platform::printer().setPdfFolder(Game.Fileloc);
   const platform::PrintResult result = platform::printer().PrintImage(grab().toImage(), kTitle);
   if (!result.printed)
     platform::MsgBox(QStringLiteral("The Trophy page can't be printed."));

@@ -5,8 +5,13 @@
 
 #include "platform/fakes/recording_shell.h"
 #include "platform/shell_open.h"
+#include "shell/loadingsrn.h"
+#include "shell/shared_procedures.h"
 
+#include <QCoreApplication>
 #include <QPushButton>
+
+#include <filesystem>
 
 namespace {
 
@@ -86,6 +91,7 @@ TEST_F(SurroundTest, ClosingTheWindowAsksFirstAndStaysOpenOnNo) {
   EXPECT_EQ(dialogs->last().text, QStringLiteral("Do you want to exit the program."));
   EXPECT_EQ(dialogs->last().title, QStringLiteral("Quit Program"));
   EXPECT_EQ(dialogs->last().buttons, platform::Buttons::YesNo);
+  EXPECT_EQ(dialogs->last().icon, platform::Icon::None);
   dialogs->answer(platform::Answer::Yes);
   EXPECT_TRUE(screen().close());
 }
@@ -107,13 +113,44 @@ TEST_F(SurroundTest, ThePartnerPagesOpenFromTheWorld) {
   screen().btnRedfern_Click();
   screen().btnMdnweb_Click();
   screen().btnQuillonweb_Click();
-  media.write("qlpage/index.htm", "<html></html>");
+  // The publisher's pages are there when their folder is, whatever it holds.
+  std::filesystem::create_directories(media.root() / "qlpage");
   screen().btnQuillonweb_Click();
   ASSERT_EQ(shell->opened().size(), 4);
   EXPECT_EQ(shell->opened()[0], QStringLiteral("D:\\redfern\\index.htm"));
   EXPECT_EQ(shell->opened()[1], QStringLiteral("D:\\mardens\\index.htm"));
   EXPECT_TRUE(shell->opened()[2].startsWith(QStringLiteral("https://")));
   EXPECT_EQ(shell->opened()[3], QStringLiteral("D:\\qlpage\\index.htm"));
+}
+
+TEST_F(SurroundTest, SwitchingTheHuntTimerLoadsTheHuntingScreenFirst) {
+  ScreenInstance<surround>::unload();
+  StopHuntTimer();
+  ASSERT_TRUE(ScreenInstance<surround>::exists());
+  EXPECT_FALSE(ScreenInstance<surround>::get().Timer2->isActive());
+  ScreenInstance<surround>::unload();
+  StartHuntTimer();
+  ASSERT_TRUE(ScreenInstance<surround>::exists());
+  EXPECT_TRUE(ScreenInstance<surround>::get().Timer2->isActive());
+  EXPECT_EQ(ScreenInstance<surround>::get().Timer2->interval(), 5500);  // loaded, not only made
+}
+
+TEST_F(SurroundTest, StartUpLoadsTheHuntingScreenAndOpensThePlace) {
+  ScreenInstance<surround>::unload();
+  Game.StartPano = QStringLiteral("3lodge");
+  LoadHuntScreen(true);
+  ASSERT_TRUE(ScreenInstance<surround>::exists());
+  EXPECT_EQ(view().loaded(), QStringLiteral("D:\\surnd\\13lodge.svh"));
+  EXPECT_FALSE(screen().Timer2->isActive());
+}
+
+TEST_F(SurroundTest, TheLoadingScreenGoesOnceTheHuntingScreenPaints) {
+  ScreenInstance<Loadingsrn>::get().show();
+  placeAt(0, QStringLiteral("3lodge"));
+  EXPECT_TRUE(ScreenInstance<Loadingsrn>::exists());
+  screen().grab();  // draws the hunting screen as showing it would
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(ScreenInstance<Loadingsrn>::exists());
 }
 
 TEST_F(SurroundTest, ReadsTheTagLimitsOfTheWorld) {

@@ -56,9 +56,22 @@ TEST_F(EncounterTest, OutsideTheFieldATickOnlyRunsTheClock) {
   EXPECT_TRUE(screen().Timer2->isActive());
 }
 
+TEST_F(EncounterTest, WhileAClipPlaysTheHuntStandsStill) {
+  Game.VideoBusy = -1;
+  screen().Timer2->start();
+  screen().Timer2_Timer();  // the dice are empty: any draw would throw
+  EXPECT_EQ(rt::formatDate(Game.GameDate, QStringLiteral("h:mm AMPM")), QStringLiteral("6:00 AM"));
+  EXPECT_TRUE(screen().Timer2->isActive());
+  Game.VideoBusy = 0;
+  placeAt(0, QStringLiteral("3lodge"));
+  screen().Timer2_Timer();
+  EXPECT_EQ(rt::formatDate(Game.GameDate, QStringLiteral("h:mm AMPM")), QStringLiteral("6:05 AM"));
+}
+
 TEST_F(EncounterTest, AWoundedAnimalHitInZoneTenAlwaysGetsAway) {
   voice({"escape"});
   Game.WoundedFlag = -1;
+  Game.TrackedSpecies = 5;
   Game.CurAnimal = 5;
   Game.ZoneValue = 10;
   Game.EventCooldown = 3;
@@ -66,6 +79,7 @@ TEST_F(EncounterTest, AWoundedAnimalHitInZoneTenAlwaysGetsAway) {
   screen().Timer2_Timer();
   EXPECT_EQ(said(), QStringList({"escape"}));
   EXPECT_EQ(Game.WoundedFlag, 0);
+  EXPECT_EQ(Game.TrackedSpecies, 0);
   EXPECT_EQ(Game.CurAnimal, 0);
   EXPECT_EQ(Game.EventCooldown, 2);
 }
@@ -154,11 +168,16 @@ TEST_F(EncounterTest, ASecondKillFillsATagOfLimitTwoAndASpoiledTrophyIsMarked) {
   Game.TagLimit[5] = 2;
   Game.ShotOutcome = 3;
   Game.ShotQuality = 11;
+  Game.WoundedFlag = -1;
+  Game.TrackedSpecies = 5;
   dice({0.0, 0.5, 0.5, 0.5, 0.5});
   screen().Aftershot();
   EXPECT_EQ(said(), QStringList({"toomuch"}));
   EXPECT_EQ(Game.DamagedTrophy, -1);
   EXPECT_EQ(Game.TagsOwned[5], kTagFilled);
+  // The tracked animal is the one taken: nothing is tracked any more.
+  EXPECT_EQ(Game.WoundedFlag, 0);
+  EXPECT_EQ(Game.TrackedSpecies, 0);
 }
 
 TEST_F(EncounterTest, AMissIsToldByItsDirection) {
@@ -248,8 +267,10 @@ TEST_F(EncounterTest, TheOpticsMagnifyTheStandAndRaiseTheOdds) {
   EXPECT_FALSE(view().widget()->isVisibleTo(&screen()));
 
   optics().turnTo(200000);
+  // The main view takes the heading the optics view last reported.
+  screen().SVControl2_OnLocation(250000);
   screen().Scope_Click();
-  EXPECT_EQ(view().Heading(), 200000);
+  EXPECT_EQ(view().Heading(), 250000);
   EXPECT_EQ(Game.OpticsBonus, 0);
   EXPECT_EQ(Game.OpticsUp, 0);
   EXPECT_EQ(screen().Scope->text(), QStringLiteral("Optics Up"));

@@ -94,7 +94,7 @@ TEST_F(SurroundTest, OnlyARangefinderWithTheOpticsUpShowsTheYards) {
   EXPECT_FALSE(yardsShown(4, true));
   EXPECT_FALSE(yardsShown(5, false));
   EXPECT_TRUE(yardsShown(5, true));
-  EXPECT_EQ(screen().Rangelab->text(), QStringLiteral("120 yards"));
+  EXPECT_EQ(screen().Rangelab->text(), QStringLiteral("120"));
 }
 
 TEST_F(SurroundTest, WalkingClosesInExceptThroughDoorways) {
@@ -115,6 +115,7 @@ TEST_F(SurroundTest, WalkingClosesInExceptThroughDoorways) {
 }
 
 TEST_F(SurroundTest, WalkingToCampCostsTwoHoursWithoutEndingTheDay) {
+  Game.CurLocation = QStringLiteral("Cottonwood stand 1");
   placeAt(3, QStringLiteral("3Dstnd1"));
   setClock(22, 18, 30);
   screen().SVControl1_OnSelectHotspot(QStringLiteral("^camp"));
@@ -122,7 +123,27 @@ TEST_F(SurroundTest, WalkingToCampCostsTwoHoursWithoutEndingTheDay) {
             QStringLiteral("Monday 8:30 PM"));
   EXPECT_EQ(Game.PlaceMode, 2);
   EXPECT_FALSE(screen().Sleeppic->isVisibleTo(&screen()));
-  EXPECT_EQ(screen().Poidescript->text(), QStringLiteral("The camp by the creek\r\n"));
+  // Only a walk into the field changes the place text.
+  EXPECT_EQ(Game.CurLocation, QStringLiteral("Cottonwood stand 1"));
+  EXPECT_EQ(screen().Poidescript->text(), QStringLiteral("Cottonwood stand 1\r\n"));
+}
+
+TEST_F(SurroundTest, EveryMoveIntoTheLodgeFromElsewhereIsAnArrival) {
+  placeAt(2, QStringLiteral("Dcamp"));
+  screen().SVControl1_OnSelectHotspot(QStringLiteral("^3lodge"));
+  EXPECT_EQ(Game.PlaceMode, 0);
+  EXPECT_EQ(Game.FirstArrival, 1);
+  // Moving about inside the lodge is no new arrival.
+  Game.FirstArrival = 0;
+  screen().SVControl1_OnSelectHotspot(QStringLiteral("^3lodge"));
+  EXPECT_EQ(Game.FirstArrival, 0);
+  // Nor is a move to camp; the end of a day at the range sends the hunter in again.
+  screen().SetToCamp();
+  EXPECT_EQ(Game.FirstArrival, 0);
+  placeAt(5, QStringLiteral("3range"));
+  screen().Settolodge();
+  EXPECT_EQ(Game.PlaceMode, 0);
+  EXPECT_EQ(Game.FirstArrival, 1);
 }
 
 TEST_F(SurroundTest, IntoTheFieldTheHunterChoosesQuarryAndWeapon) {
@@ -186,6 +207,21 @@ TEST_F(SurroundTest, TheVideoCornerNeedsVideosSwitchedOn) {
   screen().SVControl1_OnSelectHotspot(QStringLiteral("$video"));
   EXPECT_EQ(film, QStringLiteral("DMovie"));
   EXPECT_EQ(Game.VideoReturn, 1);
+  // The clip's name stays in the hand-over word after the film.
+  EXPECT_EQ(Game.ScreenState, QStringLiteral("DMovie"));
+}
+
+TEST_F(SurroundTest, TalkingToSomeoneClearsTheConversationDoneFlag) {
+  voice({"host"});
+  placeAt(0, QStringLiteral("3lodge"));
+  Game.ConversationDone = -1;
+  int16_t whileTalking = -1;
+  screens->on(QStringLiteral("Talkform"), [&](QWidget&) {
+    whileTalking = Game.ConversationDone;
+    return 0;
+  });
+  screen().SVControl1_OnSelectHotspot(QStringLiteral("@host"));
+  EXPECT_EQ(whileTalking, 0);
 }
 
 TEST_F(SurroundTest, ARangeTargetTakesOnlyItsClassOfWeapon) {

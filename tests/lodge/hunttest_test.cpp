@@ -61,12 +61,12 @@ class HunttestTest : public lodge_testing::LodgeFixture {
 
 TEST_F(HunttestTest, TenQuestionsFromTheDrawnLine) {
   auto test = sit(19);
-  EXPECT_EQ(test->Question[0]->text(), QStringLiteral("1. Question 19, true or false"));
-  EXPECT_EQ(test->Question[9]->text(), QStringLiteral("10. Question 28, true or false"));
+  EXPECT_EQ(test->Question[0]->text(), QStringLiteral("Question 19, true or false"));
+  EXPECT_EQ(test->Question[9]->text(), QStringLiteral("Question 28, true or false"));
   EXPECT_EQ(test->rightAnswers()[0], answerOfLine(19));
   EXPECT_EQ(draws->randomizeCalls(), 1);
   auto first = sit(0);
-  EXPECT_EQ(first->Question[0]->text(), QStringLiteral("1. Question 0, true or false"));
+  EXPECT_EQ(first->Question[0]->text(), QStringLiteral("Question 0, true or false"));
 }
 
 TEST_F(HunttestTest, TickBoxesReadTrueOrFalse) {
@@ -157,10 +157,28 @@ TEST_F(HunttestTest, ThePrintedSheetCarriesTheQuestionsAndTheAnswers) {
   EXPECT_EQ(printer->names().front(), QStringLiteral("Hunting Test"));
 }
 
+TEST_F(HunttestTest, WithoutAPrinterTheSheetGoesToTheSaveFolderOrSaysItCannot) {
+  Game.Fileloc = QStringLiteral("C:\\Hunt\\Saves\\");
+  auto test = sit(1);
+  {
+    platform::ScopedService<platform::Printer, platform::RecordingPrinter> pdf(
+        platform::PrintResult{true, QStringLiteral("/saves/Hunting Test.pdf")});
+    test->printbut_Click();
+    EXPECT_EQ(pdf->pdfFolder(), Game.Fileloc);
+    ASSERT_EQ(dialogs->shown().size(), 1u);
+    EXPECT_TRUE(dialogs->last().text.contains(QStringLiteral("/saves/Hunting Test.pdf")));
+  }
+  platform::ScopedService<platform::Printer, platform::RecordingPrinter> broken(
+      platform::PrintResult{false, {}});
+  test->printbut_Click();
+  ASSERT_EQ(dialogs->shown().size(), 2u);
+  EXPECT_EQ(dialogs->last().text, QStringLiteral("The test can't be printed."));
+}
+
 TEST_F(HunttestTest, AShortQuestionFileLeavesTheMissingQuestionsBlank) {
   drive.write("data/htest.csv", "1,\"Only one\"\r\n");
   auto test = sit(0);
-  EXPECT_EQ(test->Question[0]->text(), QStringLiteral("1. Only one"));
+  EXPECT_EQ(test->Question[0]->text(), QStringLiteral("Only one"));
   EXPECT_EQ(test->Question[1]->text(), QString());
 }
 

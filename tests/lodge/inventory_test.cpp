@@ -3,13 +3,17 @@
 #include "lodge/inventory.h"
 
 #include "catalog_world.h"
+#include "lodge/catalog_items.h"
 #include "platform/picture_box.h"
+#include "platform/runtime.h"
 
 #include <QLabel>
 #include <QListWidget>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
+
+#include <filesystem>
 
 namespace {
 
@@ -104,6 +108,20 @@ TEST_F(InventoryTest, AnItemWithoutASlotGoesIntoSlotZeroWhereNothingShowsIt) {
   putOn(kPatch);
   EXPECT_EQ(Game.EquipSlots[0], kPatch);
   for (int slot = 2; slot <= 16; ++slot) EXPECT_EQ(Game.EquipSlots[slot], 0) << slot;
+}
+
+TEST_F(InventoryTest, AnItemNamingASlotBeyondSixteenIsASubscriptError) {
+  std::filesystem::remove(drive.root() / "Dbase" / "catalog.isd");
+  writeRecords(QStringLiteral("D:\\Dbase\\catalog.isd"),
+               {"ID", "Item", "Item Description", "Cost", "Category", "CatNumber", "Sub-Category",
+                "Sub-CatNumber", "sequence"},
+               {{QString::number(kPatch), "Blaze Patch", "Orange", "5", "Safety", "5", "sub", "17", "1"}});
+  lodge::LoadItemTables();
+  open();
+  screen.tabinvent->setCurrentIndex(4);
+  const auto before = Game.EquipSlots;
+  EXPECT_THROW(putOn(kPatch), rt::SubscriptOutOfRange);
+  EXPECT_EQ(Game.EquipSlots, before);
 }
 
 TEST_F(InventoryTest, DoubleClickingASlotsNameTakesTheItemOffButKeepsItOwned) {

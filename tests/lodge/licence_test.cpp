@@ -203,12 +203,24 @@ TEST_F(LicenceTest, AbsentOrUnknownValuesDoNothingInQuarryMode) {
   EXPECT_EQ(Game.TagSpecies, 0);
 }
 
-TEST_F(LicenceTest, MissingPriceAndWorldFilesLeaveEverySpeciesOnSaleForNothing) {
+TEST_F(LicenceTest, AMissingWorldFileLeavesNoSpeciesAndAMissingPriceListPricesAtNothing) {
   std::filesystem::remove(drive.root() / "data" / "tagcost.csv");
   std::filesystem::remove(drive.root() / "data" / "HPiedmo.csv");
   open(Licence::kBuyMode);
-  for (int species = 1; species <= 16; ++species) EXPECT_TRUE(board.Tagpic[species]->isEnabled()) << species;
+  for (int species = 1; species <= 16; ++species) {
+    EXPECT_FALSE(board.Tagpic[species]->isEnabled()) << species;
+    EXPECT_EQ(Game.TagsOwned[species], 255) << species;
+  }
   EXPECT_EQ(board.tagPrice(kElk), 0);
+}
+
+TEST_F(LicenceTest, AShortWorldFileKeepsWhatItGivesAndLeavesTheRestAbsent) {
+  drive.write("data/HPiedmo.csv", "1,0,1\r\n");
+  open(Licence::kBuyMode);
+  EXPECT_TRUE(board.Tagpic[1]->isEnabled());
+  EXPECT_FALSE(board.Tagpic[2]->isEnabled());
+  EXPECT_TRUE(board.Tagpic[3]->isEnabled());
+  for (int species = 4; species <= 16; ++species) EXPECT_FALSE(board.Tagpic[species]->isEnabled()) << species;
 }
 
 }  // namespace

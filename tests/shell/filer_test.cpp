@@ -124,6 +124,35 @@ TEST_F(FilerTest, CancelFromTheHuntReturnsToTheMainButtons) {
   EXPECT_TRUE(shown(filer.Pausegame));
 }
 
+TEST_F(FilerTest, EscapeOrTheCloseButtonLeaveCancelFromEitherFace) {
+  for (const QString& opener : {QStringLiteral("MAINMENU"), QStringLiteral("POSTCARD")}) {
+    Game.ScreenState = opener;
+    filer.Form_Load();
+    filer.show();
+    QTest::keyClick(&filer, Qt::Key_Escape);
+    EXPECT_FALSE(filer.isVisible()) << opener.toStdString();
+    EXPECT_EQ(Game.ScreenState, "CANCEL") << opener.toStdString();
+  }
+  Game.ScreenState = "MAINMENU";
+  filer.show();
+  filer.close();
+  EXPECT_EQ(Game.ScreenState, "CANCEL");
+}
+
+TEST_F(FilerTest, TheFileFacesHideTheElevenMainButtonsAndNothingElse) {
+  filer.Form_Load();
+  filer.Savegamebut_Click();
+  for (const QPushButton* b : {filer.Loadgamebut, filer.Loadequipbut, filer.Savegamebut, filer.Saveequipbut,
+                               filer.Aboutbox, filer.Pausegame, filer.Resgamebut, filer.Exitgamebut,
+                               filer.Returnbut, filer.btnColdwater, filer.btnTamsin})
+    EXPECT_FALSE(shown(b)) << b->text().toStdString();
+  EXPECT_TRUE(shown(filer.btnHelp));
+  // Help keeps a corner of its own, clear of the list and the file buttons.
+  for (const QWidget* w : std::initializer_list<const QWidget*>{filer.List1, filer.SaveOK, filer.Cancelbut,
+                                                                filer.deluser, filer.Usename})
+    EXPECT_FALSE(filer.btnHelp->geometry().intersects(w->geometry()));
+}
+
 TEST_F(FilerTest, LoadingAGameRefreshesTheHuntClockAndHandsOverLoaded) {
   Game.Money = 777;
   saveGame("HUNT");

@@ -5,8 +5,12 @@
 #include "platform/fakes/fake_system_config.h"
 #include "platform/fakes/media_fake_window.h"
 #include "platform/fakes/memory_settings.h"
+#include "shell/loadingsrn.h"
+#include "shell/postcard.h"
 #include "shell/save_file_layout.h"
 #include "shell/save_files.h"
+#include "shell/screen_instance.h"
+#include "shell/shared_procedures.h"
 
 #include <QFile>
 #include <QTimer>
@@ -68,6 +72,24 @@ TEST_F(GamestartTest, WithoutTheIntroNoVideoWindowIsOpenedAndTheNewGameIsRead) {
   EXPECT_EQ(Game.HelpFile, "D:\\varnholt.hlp");
   EXPECT_EQ(Game.DbaseDir, "Dbase\\");
   EXPECT_EQ(Game.SaveExt, ".VN");
+}
+
+TEST_F(GamestartTest, StartUpLoadsTheHuntingScreenOnceTheLoadingScreenIsDown) {
+  settings->SaveSetting(platform::kSettingsSection, "VIDON", "1");
+  writeNewGame(0);
+  QList<bool> opened;
+  bool loadingUp = true;
+  setHuntScreenLoader([&](bool openPlace) {
+    opened << openPlace;
+    loadingUp = ScreenInstance<Loadingsrn>::exists();
+  });
+  start.Form_Load();
+  dialogs->answer(Answer::No);
+  EXPECT_TRUE(start.Form_Activate());
+  setHuntScreenLoader(nullptr);
+  EXPECT_EQ(opened, QList<bool>{true});
+  EXPECT_FALSE(loadingUp);
+  EXPECT_TRUE(ScreenInstance<Postcard>::exists());
 }
 
 TEST_F(GamestartTest, TheSpecialPermitChoosesItsFoldersAndTheIntroPlaysToItsEnd) {

@@ -3,6 +3,7 @@
 // photograph, the award bases and printing.
 #include "shooting/shotdata.h"
 #include "platform/datetime.h"
+#include "platform/error_box.h"
 #include "platform/fakes/recording_printer.h"
 #include "platform/picture_box.h"
 #include "platform/runtime.h"
@@ -86,11 +87,18 @@ TEST_F(ShotdataTest, ASpoiledTrophyEarnsNoAwardWhateverItWeighs) {
   EXPECT_EQ(Game.Money, 2500);
 }
 
-TEST_F(ShotdataTest, AnAwardBeyondTheWalletsRangeOverflowsBeforeItIsPaid) {
+TEST_F(ShotdataTest, AnAwardBeyondTheWalletsRangeIsReportedAndThePageStillComesUp) {
   Game.Money = 32600;
   *random = {0.5, 0.9, 0.0};
-  EXPECT_THROW(load(), rt::OverflowError);
+  Shotdata* page = nullptr;
+  EXPECT_NO_THROW(page = &load());
   EXPECT_EQ(Game.Money, 32600);
+  ASSERT_EQ(dialogs->shown().size(), 1u);
+  EXPECT_EQ(dialogs->last().text, platform::kOverflowText);
+  // The kill is still shown (and so recorded and tagged by the hunt); no award is claimed.
+  EXPECT_EQ(page->Specieslab->text(), QStringLiteral("Bighorn Sheep"));
+  EXPECT_TRUE(page->Awardlab->text().isEmpty());
+  EXPECT_EQ(page->award(), 0);
 }
 
 TEST_F(ShotdataTest, ShowsThePhotographOfTheClipWhenThereIsOne) {
@@ -131,6 +139,8 @@ TEST_F(ShotdataTest, PrintsItsOwnPictureOrSaysItCannot) {
   page.printbut_Click();
   ASSERT_EQ(dialogs->shown().size(), 1u);
   EXPECT_EQ(dialogs->last().text, QStringLiteral("The Trophy page can't be printed."));
+  // Without a printer the page would go to the save folder.
+  EXPECT_EQ(broken->pdfFolder(), Game.Fileloc);
 }
 
 }  // namespace
