@@ -19,8 +19,8 @@ bool inRange(int value, int low, int high) {
 }
 
 bool isTagCode(int16_t code) {
-  return code == 0 || code == kTagFilled || code == kTagNone || inRange(code, kTagHeld, kTagHeld + 9) ||
-         code == kTagAbsent;
+  // Held tags count up from 128 with every animal taken, as far as the world's limit allows.
+  return code == 0 || code == kTagFilled || code == kTagNone || inRange(code, kTagHeld, kTagAbsent);
 }
 
 // A text that the game puts into a file name: no separator, drive colon or climb.
