@@ -2,6 +2,7 @@
 // The streamed sound track: a range read after a seek is exactly that part of the sound, and an
 // hour of compressed sound plays from anywhere holding no more than a frame of samples.
 #include "platform/media/audio_track.h"
+#include "platform/fakes/media_draining_audio.h"
 #include "platform/fakes/media_manual_clock.h"
 #include "platform/fakes/media_test_clips.h"
 #include "platform/media/audio_output.h"
@@ -24,20 +25,6 @@ QByteArray readRange(AudioTrack& track, int64_t from, int64_t to) {
   track.setRange(from, to);
   return track.readAll();
 }
-
-// A device that drains whatever it is given at once, as a fast sound card would.
-struct PullingAudioDevice final : AudioDevice {
-  struct Output final : AudioOutput {
-    explicit Output(qsizetype& pulled) : pulled(pulled) {}
-    void start(QIODevice* source) override { pulled += source->readAll().size(); }
-    void pause() override {}
-    void resume() override {}
-    void stop() override {}
-    qsizetype& pulled;
-  };
-  std::unique_ptr<AudioOutput> open() override { return std::make_unique<Output>(pulled); }
-  qsizetype pulled = 0;
-};
 
 TEST(AudioTrack, RangeAfterASeekIsExactlyThatPartOfTheWholeSound) {
   QTemporaryDir dir;
@@ -102,7 +89,7 @@ TEST_F(LongSound, HourOfCompressedSoundPlaysFromAnywhereInBoundedMemory) {
 
 TEST_F(LongSound, MediaWindowReportsTheContainersLengthAndPlaysTheEnd) {
   ScopedService<PlaybackClock, ManualPlaybackClock> clock;
-  ScopedService<AudioDevice, PullingAudioDevice> device;
+  ScopedService<AudioDevice, DrainingAudioDevice> device;
   FfmpegMediaWindow window;
   window.setFileName(QString::fromStdString(file().string()));
   EXPECT_GE(window.length(), kHourMs);
@@ -110,7 +97,7 @@ TEST_F(LongSound, MediaWindowReportsTheContainersLengthAndPlaysTheEnd) {
   window.command("seek to 3599000");
   EXPECT_EQ(window.position(), 3599000);
   window.command("play");
-  EXPECT_NEAR(double(device->pulled), double(bytesOf(window.length() - 3599000)), bytesOf(1));
+  EXPECT_NEAR(double(device->pulled()), double(bytesOf(window.length() - 3599000)), bytesOf(1));
   clock->advance(window.length() - 3599000);
   window.poll();
   EXPECT_EQ(window.mode(), kModeStopped);
