@@ -125,8 +125,11 @@ bool AudioTrack::atEnd() const {
   return cursor_ >= end_ || (drained_ && framesBuffered() == 0);
 }
 
+// Until the decoder runs dry the whole rest of the range counts as there: a device that pulls
+// must not take a frame not yet decoded for the end of the sound.
 qint64 AudioTrack::bytesAvailable() const {
-  return std::min(framesBuffered(), std::max<int64_t>(end_ - cursor_, 0)) * kBytesPerFrame;
+  const int64_t rest = std::max<int64_t>(end_ - cursor_, 0);
+  return (drained_ ? std::min(framesBuffered(), rest) : rest) * kBytesPerFrame;
 }
 
 // One decoded frame at a time, so what is held never exceeds a frame's samples.
