@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // Fuzzes opening and playing arbitrary bytes as a sound or a clip, in the media window and in
-// the mixer's clip source: the first byte picks WAV or AVI, the rest is the file. Silent, on a
-// clock moved by hand.
+// the mixer's clip source: the first byte picks WAV or AVI, the rest is the file. A device that
+// drains each play decodes the sound; the clock is moved by hand.
 #include "fuzz_support.h"
+#include "platform/fakes/media_draining_audio.h"
 #include "platform/fakes/media_manual_clock.h"
 #include "platform/media/audio_output.h"
 #include "platform/media/ffmpeg_media_window.h"
@@ -43,7 +44,7 @@ void playInMixer(const QString& path, platform::ManualPlaybackClock& clock) {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   if (size == 0) return 0;
   fuzzing::ensureApplication();
-  static platform::ScopedService<platform::AudioDevice, platform::SilentAudioDevice> silence;
+  static platform::ScopedService<platform::AudioDevice, platform::DrainingAudioDevice> device;
   static platform::ScopedService<platform::PlaybackClock, platform::ManualPlaybackClock> clock;
   const QString name = data[0] % 2 ? QStringLiteral("input.avi") : QStringLiteral("input.wav");
   const QString path = fuzzing::writeInput(data + 1, size - 1, name);

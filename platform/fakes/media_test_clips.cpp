@@ -28,9 +28,10 @@ void put(QByteArray& bytes, T value) {
   bytes.append(reinterpret_cast<const char*>(&little), sizeof little);
 }
 
-QByteArray toneSamples(int count, int channels, int rate) {
+// Samples [first, first + count) of the tone, so long sounds can be made a piece at a time.
+QByteArray toneSamples(int first, int count, int channels, int rate) {
   QByteArray samples;
-  for (int i = 0; i < count; ++i)
+  for (int i = first; i < first + count; ++i)
     for (int c = 0; c < channels; ++c)
       put<int16_t>(samples, int16_t(2000 * std::sin(i * 2 * M_PI * 440 / rate)));
   return samples;
@@ -86,7 +87,7 @@ void openVideo(ClipWriter& w, const TestClip& clip) {
 }
 
 // Mono, so the planar and packed sample layouts are the same bytes.
-void openAudio(ClipWriter& w, AVCodecID id) {
+void openAudio(ClipWriter& w, AVCodecID id, bool trueByteRate = false) {
   const AVCodec* codec = avcodec_find_encoder(id);
   check(codec, "no sound encoder");
   w.audio = avcodec_alloc_context3(codec);
@@ -95,6 +96,10 @@ void openAudio(ClipWriter& w, AVCodecID id) {
   av_channel_layout_default(&w.audio->ch_layout, 1);
   w.audio->time_base = AVRational{1, 22050};
   check(avcodec_open2(w.audio, codec, nullptr) >= 0, "open sound encoder");
+  // Block codecs are left with the encoder's default bit rate, which WAV headers then carry
+  // as a false byte rate; a true one lets readers seek by it.
+  if (trueByteRate && w.audio->frame_size > 0)
+    w.audio->bit_rate = int64_t(w.audio->sample_rate) * w.audio->block_align * 8 / w.audio->frame_size;
   w.audioStream = avformat_new_stream(w.format, nullptr);
   avcodec_parameters_from_context(w.audioStream->codecpar, w.audio);
   w.audioStream->time_base = w.audio->time_base;
@@ -136,16 +141,16 @@ void writePictures(ClipWriter& w, const TestClip& clip) {
 // Encoders with a fixed frame size get whole frames, the last one padded with silence.
 void writeSound(ClipWriter& w, int samples) {
   const int chunk = w.audio->frame_size > 0 ? w.audio->frame_size : 1024;
-  QByteArray tone = toneSamples(samples, 1, 22050);
-  tone.resize((samples + chunk - 1) / chunk * chunk * 2, '\0');
   for (int at = 0; at < samples; at += chunk) {
+    QByteArray tone = toneSamples(at, std::min(chunk, samples - at), 1, 22050);
+    tone.resize(chunk * 2, '\0');
     AVFrame* frame = av_frame_alloc();
     frame->format = w.audio->sample_fmt;
     frame->nb_samples = w.audio->frame_size > 0 ? chunk : std::min(chunk, samples - at);
     av_channel_layout_default(&frame->ch_layout, 1);
     frame->sample_rate = 22050;
     av_frame_get_buffer(frame, 0);
-    std::memcpy(frame->data[0], tone.constData() + at * 2, size_t(frame->nb_samples) * 2);
+    std::memcpy(frame->data[0], tone.constData(), size_t(frame->nb_samples) * 2);
     frame->pts = at;
     w.send(w.audio, w.audioStream, frame);
     av_frame_free(&frame);
@@ -156,7 +161,7 @@ void writeSound(ClipWriter& w, int samples) {
 }  // namespace
 
 void writeTestWav(const std::filesystem::path& file, int ms, int rate, int channels) {
-  const QByteArray samples = toneSamples(int(int64_t(rate) * ms / 1000), channels, rate);
+  const QByteArray samples = toneSamples(0, int(int64_t(rate) * ms / 1000), channels, rate);
   QByteArray bytes("RIFF");
   put<uint32_t>(bytes, uint32_t(36 + samples.size()));
   bytes.append("WAVEfmt ");
@@ -174,14 +179,14 @@ void writeTestWav(const std::filesystem::path& file, int ms, int rate, int chann
   check(out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size(), "write WAV");
 }
 
-void writeTestAdpcmWav(const std::filesystem::path& file, int ms) {
+void writeTestAdpcmWav(const std::filesystem::path& file, int ms, bool trueByteRate) {
   av_log_set_level(AV_LOG_ERROR);
   ClipWriter w;
   check(avformat_alloc_output_context2(&w.format, nullptr, "wav", file.string().c_str()) >= 0, "WAV muxer");
-  openAudio(w, AV_CODEC_ID_ADPCM_IMA_WAV);
+  openAudio(w, AV_CODEC_ID_ADPCM_IMA_WAV, trueByteRate);
   check(avio_open(&w.format->pb, file.string().c_str(), AVIO_FLAG_WRITE) >= 0, "open output");
   check(avformat_write_header(w.format, nullptr) >= 0, "write header");
-  writeSound(w, 22050 * ms / 1000);
+  writeSound(w, int(int64_t(22050) * ms / 1000));
   check(av_write_trailer(w.format) >= 0, "write trailer");
 }
 

@@ -13,8 +13,9 @@ namespace platform {
 // Writes a 16-bit PCM WAV of `ms` milliseconds of a quiet tone.
 void writeTestWav(const std::filesystem::path& file, int ms, int rate = 22050, int channels = 1);
 
-// Writes a mono IMA ADPCM WAV of about `ms` milliseconds (whole encoder blocks).
-void writeTestAdpcmWav(const std::filesystem::path& file, int ms);
+// Writes a mono IMA ADPCM WAV of about `ms` milliseconds (whole encoder blocks). Unless asked
+// for a true byte rate, its header carries the false one FFmpeg's own tools write.
+void writeTestAdpcmWav(const std::filesystem::path& file, int ms, bool trueByteRate = false);
 
 struct TestClip {
   int frames = 10;

@@ -5,17 +5,18 @@
 
 #include "platform/service.h"
 
-#include <QByteArray>
+#include <QIODevice>
 
 #include <memory>
 
 namespace platform {
 
-// One stream of 16-bit stereo samples at the audio track's rate.
+// One stream of 16-bit stereo samples at the audio track's rate, pulled from `source` as the
+// device needs them; the source outlives the play.
 class AudioOutput {
  public:
   virtual ~AudioOutput() = default;
-  virtual void start(const QByteArray& pcm) = 0;
+  virtual void start(QIODevice* source) = 0;
   virtual void pause() = 0;
   virtual void resume() = 0;
   virtual void stop() = 0;
@@ -23,7 +24,7 @@ class AudioOutput {
 
 class SilentAudioOutput final : public AudioOutput {
  public:
-  void start(const QByteArray&) override {}
+  void start(QIODevice*) override {}
   void pause() override {}
   void resume() override {}
   void stop() override {}

@@ -86,12 +86,12 @@ int FfmpegMediaWindow::play(const MediaCommand& command) {
   const int64_t to = std::min(command.to.value_or(length_), length_);
   if (from > length_) return fail(kMediaOutOfRange);
   if (output_) output_->stop();  // a new play cuts the old one off
-  if (!track_) {
-    AvInput input(file_);
-    track_ = std::make_unique<AudioTrack>(decodeAudioTrack(input));
-  }
+  if (!track_) track_ = std::make_unique<AudioTrack>(file_);
   if (!output_) output_ = audioDevice().open();
-  if (!track_->pcm.isEmpty()) output_->start(track_->slice(from, to));
+  if (track_->hasSound()) {
+    track_->setRange(from, to);
+    output_->start(track_.get());
+  }
   timeline_.start(from, to, playbackClock().nowMs());
   showPictureAt(from);
   setMode(kModePlaying);

@@ -60,7 +60,7 @@ class FfmpegMediaWindow final : public MCIWnd {
   int64_t rest_ = 0;  // the position while not playing
   PlaybackTimeline timeline_;
   std::unique_ptr<AudioOutput> output_;
-  std::unique_ptr<AudioTrack> track_;  // decoded on the first play
+  std::unique_ptr<AudioTrack> track_;  // opened on the first play
   std::unique_ptr<VideoReader> video_;
   VideoFrame shown_;
   VideoFrame upcoming_;

@@ -25,12 +25,9 @@ SinkAudioOutput::~SinkAudioOutput() {
   stop();
 }
 
-void SinkAudioOutput::start(const QByteArray& pcm) {
+void SinkAudioOutput::start(QIODevice* source) {
   stop();
-  pcm_ = pcm;
-  buffer_.setData(pcm_);
-  buffer_.open(QIODevice::ReadOnly);
-  sink_.start(&buffer_);
+  sink_.start(source);
   if (sink_.error() != QAudio::NoError)
     qCDebug(mediaLog) << "sound device refused to start:" << sink_.error();
 }
@@ -44,7 +41,6 @@ void SinkAudioOutput::resume() {
 
 void SinkAudioOutput::stop() {
   sink_.stop();
-  buffer_.close();
 }
 
 std::unique_ptr<AudioOutput> SystemAudioDevice::open() {

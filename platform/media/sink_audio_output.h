@@ -6,7 +6,6 @@
 
 #include <QAudioDevice>
 #include <QAudioSink>
-#include <QBuffer>
 
 namespace platform {
 
@@ -15,15 +14,13 @@ class SinkAudioOutput final : public AudioOutput {
   explicit SinkAudioOutput(const QAudioDevice& device);
   ~SinkAudioOutput() override;
 
-  void start(const QByteArray& pcm) override;
+  void start(QIODevice* source) override;
   void pause() override;
   void resume() override;
   void stop() override;
 
  private:
   QAudioSink sink_;
-  QByteArray pcm_;
-  QBuffer buffer_;
 };
 
 }  // namespace platform

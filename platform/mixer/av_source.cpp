@@ -52,13 +52,11 @@ void AVSource::Play(int fromMs, int toMs) {
 }
 
 void AVSource::startSound(int64_t from, int64_t to) {
-  if (!track_) {
-    AvInput input(file_);
-    track_ = std::make_unique<AudioTrack>(decodeAudioTrack(input));
-  }
-  if (track_->pcm.isEmpty()) return;
+  if (!track_) track_ = std::make_unique<AudioTrack>(file_);
+  if (!track_->hasSound()) return;
   if (!output_) output_ = audioDevice().open();
-  output_->start(track_->slice(from, to));
+  track_->setRange(from, to);
+  output_->start(track_.get());
 }
 
 void AVSource::Pause() {
