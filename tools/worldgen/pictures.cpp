@@ -129,7 +129,7 @@ QImage trophyPicture(int species) {
 
 }  // namespace
 
-void writePictures(const Content& c, const fs::path& root) {
+void writeGearPictures(const Content& c, const fs::path& root) {
   for (int row = 0; row < c.catalog.rows.size(); ++row) {
     const std::string id = cell(c.catalog, row, "ID").toStdString();
     const QString name = cell(c.catalog, row, "Item");
@@ -141,6 +141,10 @@ void writePictures(const Content& c, const fs::path& root) {
     save(weaponPicture(n, QSize(300, 100)), root / "pict" / ("weapon" + std::to_string(n) + ".bmp"));
     save(weaponPicture(n, QSize(32, 32)), root / "pict" / ("wicon" + std::to_string(n) + ".bmp"));
   }
+}
+
+void writePictures(const Content& c, const fs::path& root) {
+  writeGearPictures(c, root);
   for (int s = 1; s <= kSpeciesCount; ++s) {
     save(tagPicture(s), root / "licnpics" / ("tag" + std::to_string(s) + ".bmp"));
     save(trophyPicture(s), root / "art" / ("Trophy" + std::to_string(s) + ".bmp"));
