@@ -90,6 +90,14 @@ TEST(GearPictures, EveryItemIconDiffersFromTheOthers) {
 
 TEST(GearPictures, EveryWeaponIsItsOwnDrawing) {
   expectAllDistinct(read("pict", "weapon", kWeaponCount), 1.0, 0.2);
+  expectAllDistinct(read("pict", "xweapon", kWeaponCount), 1.0, 0.2);
+}
+
+TEST(GearPictures, ThePermitRackDrawsItsOwnGunsAndTheSameBows) {
+  const std::vector<Picture> standard = read("pict", "weapon", kWeaponCount);
+  const std::vector<Picture> permit = read("pict", "xweapon", kWeaponCount);
+  for (int n = 0; n < 7; ++n) EXPECT_NE(standard[n].image, permit[n].image) << n + 1;
+  for (int n = 7; n < kWeaponCount; ++n) EXPECT_EQ(standard[n].image, permit[n].image) << n + 1;
 }
 
 TEST(GearPictures, EdgeDistanceSeesARecolourAsTheSameDrawing) {

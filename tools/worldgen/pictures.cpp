@@ -140,6 +140,9 @@ void writeGearPictures(const Content& c, const fs::path& root) {
   for (int n = 1; n <= kWeaponCount; ++n) {
     save(weaponPicture(n, QSize(300, 100)), root / "pict" / ("weapon" + std::to_string(n) + ".bmp"));
     save(weaponPicture(n, QSize(32, 32)), root / "pict" / ("wicon" + std::to_string(n) + ".bmp"));
+    // The special-permit rack's own guns, for the rack to show when those worlds are in play.
+    save(weaponPicture(n, QSize(300, 100), true), root / "pict" / ("xweapon" + std::to_string(n) + ".bmp"));
+    save(weaponPicture(n, QSize(32, 32), true), root / "pict" / ("xwicon" + std::to_string(n) + ".bmp"));
   }
 }
 
