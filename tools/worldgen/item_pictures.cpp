@@ -2,6 +2,8 @@
 // Each kind of catalogue item as a small still life of a few shapes.
 #include "tools/worldgen/item_pictures.h"
 
+#include "tools/worldgen/item_kit_pictures.h"
+
 #include <QPainterPath>
 
 namespace worldgen {
@@ -18,11 +20,6 @@ QColor colourFor(const QString& name, QColor fallback) {
   if (name.contains(QStringLiteral("Wool")) || name.contains(QStringLiteral("Mackinaw")))
     return QColor(0xa82a22);
   return fallback;
-}
-
-void outlined(QPainter& p, QColor fill) {
-  p.setBrush(fill);
-  p.setPen(QPen(fill.darker(170), 1.5));
 }
 
 // Blotches over a filled shape, for camouflage and plaid alike.
@@ -50,33 +47,13 @@ void pattern(QPainter& p, const QPainterPath& shape, const QString& name) {
 }
 
 void fillShape(QPainter& p, const QPainterPath& shape, QColor colour, const QString& name) {
-  outlined(p, colour);
+  outlined(p, colour, shape.boundingRect());
   p.drawPath(shape);
   pattern(p, shape, name);
 }
 
-QPointF at(const QRectF& r, double x, double y) {
-  return {r.left() + r.width() * x, r.top() + r.height() * y};
-}
-
-void binoculars(QPainter& p, const QRectF& r, const QString& name) {
-  outlined(p, QColor(0x2a2c30));
-  const bool laser = name.contains(QStringLiteral("Laser"));
-  if (laser) {
-    p.drawRoundedRect(QRectF(at(r, 0.15, 0.25), at(r, 0.85, 0.75)), 8, 8);
-    p.setBrush(QColor(0x6a90c0));
-    p.drawEllipse(at(r, 0.3, 0.5), r.height() * 0.14, r.height() * 0.14);
-    p.setBrush(QColor(0xc02020));
-    p.drawEllipse(at(r, 0.72, 0.35), 3, 3);
-    return;
-  }
-  for (const double x : {0.3, 0.7}) {
-    p.drawRoundedRect(QRectF(at(r, x - 0.16, 0.2), at(r, x + 0.16, 0.85)), 6, 6);
-    p.setBrush(QColor(0x6a90c0));
-    p.drawEllipse(at(r, x, 0.78), r.width() * 0.1, r.height() * 0.07);
-    p.setBrush(QColor(0x2a2c30));
-  }
-  p.drawRect(QRectF(at(r, 0.44, 0.35), at(r, 0.56, 0.55)));
+bool has(const QString& name, const char* word) {
+  return name.contains(QLatin1String(word));
 }
 
 void hat(QPainter& p, const QRectF& r, const QString& name) {
@@ -84,109 +61,148 @@ void hat(QPainter& p, const QRectF& r, const QString& name) {
   crown.moveTo(at(r, 0.2, 0.75));
   crown.cubicTo(at(r, 0.2, 0.1), at(r, 0.8, 0.1), at(r, 0.8, 0.75));
   crown.closeSubpath();
-  const QColor colour =
-      colourFor(name, name.contains(QStringLiteral("Trapper")) ? QColor(0x6a4a2a) : QColor(0x3a4a6a));
+  const QColor colour = colourFor(name, has(name, "Trapper") ? QColor(0x6a4a2a) : QColor(0x3a4a6a));
   fillShape(p, crown, colour, name);
-  outlined(p, name.contains(QStringLiteral("Trapper")) ? QColor(0xd8c8a8) : colour.darker(120));
-  if (name.contains(QStringLiteral("Ball")))
-    p.drawRoundedRect(QRectF(at(r, 0.5, 0.68), at(r, 0.95, 0.8)), 4, 4);
+  outlined(p, has(name, "Trapper") ? QColor(0xd8c8a8) : colour.darker(120), r);
+  if (has(name, "Ball"))
+    p.drawRoundedRect(QRectF(at(r, 0.5, 0.68), at(r, 0.95, 0.8)), r.width() * 0.03, r.width() * 0.03);
   else
-    p.drawRoundedRect(QRectF(at(r, 0.15, 0.66), at(r, 0.85, 0.82)), 5, 5);
+    p.drawRoundedRect(QRectF(at(r, 0.15, 0.66), at(r, 0.85, 0.82)), r.width() * 0.04, r.width() * 0.04);
+  if (has(name, "Trapper"))  // the fur-lined ear flaps
+    for (const double x : {0.14, 0.72}) p.drawRoundedRect(QRectF(at(r, x, 0.7), at(r, x + 0.14, 0.98)), 3, 3);
+}
+
+// What sets one coat or pair of trousers apart from its neighbours on the rail.
+struct Garment {
+  const char* word;
+  QRgb colour;
+  double hem;
+  bool hood, quilted, collar, bib;
+};
+
+constexpr Garment kGarments[] = {
+    {"Quilted", 0x4a5a3a, 0.84, false, true, false, false},
+    {"Waxed", 0x6a5a32, 0.94, false, false, true, false},
+    {"Insulated Parka", 0x2a3a5a, 1.0, true, false, false, false},
+    {"Parka Cover", 0xf06a10, 0.8, true, false, false, false},
+    {"Canvas", 0xb09a6a, 0.9, false, false, false, false},
+    {"Bibs", 0x3a4a3a, 0.9, false, false, false, true},
+    {"Coveralls", 0x7a5a2a, 0.9, true, false, false, false},
+};
+
+Garment garmentFor(const QString& name) {
+  for (const Garment& g : kGarments)
+    if (has(name, g.word)) return g;
+  return {"", 0x5a4a2a, 0.9, false, false, false, false};
+}
+
+QPolygonF coatOutline(const QRectF& r, bool vest, double hem) {
+  return QPolygonF({at(r, 0.38, 0.08), at(r, 0.62, 0.08), at(r, vest ? 0.7 : 0.9, vest ? 0.15 : 0.3),
+                    at(r, vest ? 0.72 : 0.95, vest ? 0.2 : 0.7), at(r, vest ? 0.72 : 0.82, 0.72),
+                    at(r, 0.72, hem), at(r, 0.28, hem), at(r, vest ? 0.28 : 0.18, 0.72),
+                    at(r, vest ? 0.28 : 0.05, vest ? 0.2 : 0.7), at(r, vest ? 0.3 : 0.1, vest ? 0.15 : 0.3)});
+}
+
+QPolygonF legsOutline(const QRectF& r, double top) {
+  return QPolygonF({at(r, 0.3, top), at(r, 0.7, top), at(r, 0.75, 0.98), at(r, 0.55, 0.98), at(r, 0.5, 0.6),
+                    at(r, 0.45, 0.98), at(r, 0.25, 0.98)});
+}
+
+// Quilting, a corduroy collar or a hood, drawn over the garment's cloth.
+void garmentDetails(QPainter& p, const QRectF& r, const Garment& g) {
+  p.setPen(QPen(QColor(0, 0, 0, 90), r.width() / 70));
+  if (g.quilted)
+    for (double y = 0.2; y < 0.9; y += 0.12) p.drawLine(at(r, 0.2, y), at(r, 0.8, y + 0.06));
+  p.setBrush(QColor(g.colour).darker(160));
+  if (g.collar) p.drawPolygon(QPolygonF({at(r, 0.34, 0.06), at(r, 0.66, 0.06), at(r, 0.5, 0.26)}));
+  p.setBrush(QColor(g.colour).darker(115));
+  if (g.hood) p.drawChord(QRectF(at(r, 0.34, -0.04), at(r, 0.66, 0.2)), 0, 180 * 16);
 }
 
 void garment(QPainter& p, const QRectF& r, const QString& name, int kind) {
+  const Garment g = garmentFor(name);
   QPainterPath shape;
-  if (kind == 3) {  // trousers
-    shape.addPolygon(QPolygonF({at(r, 0.3, 0.1), at(r, 0.7, 0.1), at(r, 0.75, 0.95), at(r, 0.55, 0.95),
-                                at(r, 0.5, 0.4), at(r, 0.45, 0.95), at(r, 0.25, 0.95)}));
-  } else {  // coats, vests and coveralls: a body with sleeves (none for a vest)
-    const bool vest = name.contains(QStringLiteral("Vest"));
-    const double hem = kind == 5 ? 0.98 : 0.9;
-    shape.addPolygon(
-        QPolygonF({at(r, 0.38, 0.08), at(r, 0.62, 0.08), at(r, vest ? 0.7 : 0.9, vest ? 0.15 : 0.3),
-                   at(r, vest ? 0.72 : 0.95, vest ? 0.2 : 0.7), at(r, vest ? 0.72 : 0.82, 0.72),
-                   at(r, 0.72, hem), at(r, 0.28, hem), at(r, vest ? 0.28 : 0.18, 0.72),
-                   at(r, vest ? 0.28 : 0.05, vest ? 0.2 : 0.7), at(r, vest ? 0.3 : 0.1, vest ? 0.15 : 0.3)}));
+  if (kind == 3) {
+    shape.addPolygon(legsOutline(r, g.bib ? 0.3 : 0.1));
+    if (g.bib) shape.addRect(QRectF(at(r, 0.36, 0.08), at(r, 0.64, 0.32)));
+  } else {
+    shape.addPolygon(coatOutline(r, has(name, "Vest"), kind == 5 ? 0.66 : g.hem));
+    if (kind == 5) shape.addPolygon(legsOutline(r, 0.6));  // a suit: the coat runs into its legs
   }
   shape.closeSubpath();
-  fillShape(p, shape, colourFor(name, QColor(0x5a4a2a)), name);
-  p.setPen(QPen(QColor(0, 0, 0, 90), 1.5));
-  if (kind != 3) p.drawLine(at(r, 0.5, 0.12), at(r, 0.5, kind == 5 ? 0.55 : 0.9));
+  fillShape(p, shape.simplified(), colourFor(name, QColor(g.colour)), name);
+  garmentDetails(p, r, g);
+  p.setPen(QPen(QColor(0, 0, 0, 90), r.width() / 70));
+  if (kind != 3) p.drawLine(at(r, 0.5, 0.12), at(r, 0.5, kind == 5 ? 0.6 : 0.9));
+  if (g.bib)
+    for (const double x : {0.38, 0.62}) p.drawLine(at(r, x, 0.08), at(r, x + (x - 0.5) * 0.6, 0.0));
 }
+
+// Knee boots of green rubber, laced leather uplands, and pacs with a rubber foot and a felt cuff.
+struct Boot {
+  const char* word;
+  QRgb upper, foot;
+  double top;
+  bool laces, cuff;
+};
+
+constexpr Boot kBoots[] = {
+    {"Rubber", 0x2a3a22, 0x2a3a22, 0.02, false, false},
+    {"Leather", 0x8a5a2a, 0x5a3a1a, 0.35, true, false},
+    {"Pac", 0x7a4a22, 0x1e1e1e, 0.15, true, true},
+};
 
 void boot(QPainter& p, const QRectF& r, const QString& name) {
+  Boot b = kBoots[1];
+  for (const Boot& candidate : kBoots)
+    if (has(name, candidate.word)) b = candidate;
   QPainterPath shape;
-  shape.addPolygon(QPolygonF({at(r, 0.3, 0.05), at(r, 0.58, 0.05), at(r, 0.6, 0.6), at(r, 0.92, 0.72),
+  shape.addPolygon(QPolygonF({at(r, 0.3, b.top), at(r, 0.58, b.top), at(r, 0.6, 0.6), at(r, 0.92, 0.72),
                               at(r, 0.92, 0.92), at(r, 0.25, 0.92)}));
   shape.closeSubpath();
-  fillShape(p, shape, name.contains(QStringLiteral("Rubber")) ? QColor(0x2a3a22) : QColor(0x7a4a22), name);
-  p.setBrush(QColor(0x2a2018));
-  p.drawRect(QRectF(at(r, 0.24, 0.86), at(r, 0.93, 0.95)));
+  fillShape(p, shape, QColor(b.upper), name);
+  outlined(p, QColor(b.foot), r);
+  p.drawPolygon(QPolygonF(
+      {at(r, 0.25, 0.65), at(r, 0.6, 0.65), at(r, 0.92, 0.74), at(r, 0.92, 0.95), at(r, 0.24, 0.95)}));
+  p.setPen(QPen(QColor(0xe8d8b0), r.width() / 50));
+  if (b.laces)
+    for (double y = b.top + 0.06; y < 0.6; y += 0.08) p.drawLine(at(r, 0.5, y), at(r, 0.6, y + 0.03));
+  outlined(p, QColor(0xe8e0d0), r);
+  if (b.cuff) p.drawRect(QRectF(at(r, 0.28, b.top - 0.1), at(r, 0.6, b.top + 0.02)));
 }
 
-void call(QPainter& p, const QRectF& r, const QString& name) {
-  if (name.contains(QStringLiteral("Antlers"))) {
-    p.setPen(QPen(QColor(0xe6d6b0), 6, Qt::SolidLine, Qt::RoundCap));
-    for (const double side : {-1.0, 1.0}) {
-      p.drawLine(at(r, 0.5 + side * 0.05, 0.9), at(r, 0.5 + side * 0.35, 0.15));
-      p.drawLine(at(r, 0.5 + side * 0.2, 0.55), at(r, 0.5 + side * 0.1, 0.3));
-    }
-    return;
-  }
-  outlined(p, name.contains(QStringLiteral("Birch")) ? QColor(0xe8e0d0) : QColor(0x6a4222));
-  if (name.contains(QStringLiteral("Box"))) {
-    p.drawRect(QRectF(at(r, 0.15, 0.35), at(r, 0.85, 0.7)));
-    p.drawRect(QRectF(at(r, 0.1, 0.28), at(r, 0.9, 0.36)));
-    return;
-  }
-  QPainterPath horn;  // a tube widening to a bell
-  horn.moveTo(at(r, 0.1, 0.45));
-  horn.lineTo(at(r, 0.6, 0.45));
-  horn.lineTo(at(r, 0.9, 0.25));
-  horn.lineTo(at(r, 0.9, 0.85));
-  horn.lineTo(at(r, 0.6, 0.62));
-  horn.lineTo(at(r, 0.1, 0.62));
-  horn.closeSubpath();
-  p.drawPath(horn);
-}
-
-void decoy(QPainter& p, const QRectF& r, const QString& name) {
-  outlined(p, name.contains(QStringLiteral("Flagging")) ? QColor(0xf4f0e6) : QColor(0x8a6a42));
-  if (name.contains(QStringLiteral("Flagging"))) {
-    p.drawPolygon(QPolygonF({at(r, 0.3, 0.2), at(r, 0.85, 0.35), at(r, 0.3, 0.5)}));
-    p.setPen(QPen(QColor(0x5a3a1e), 3));
-    p.drawLine(at(r, 0.3, 0.15), at(r, 0.3, 0.95));
-    return;
-  }
-  p.drawEllipse(QRectF(at(r, 0.2, 0.35), at(r, 0.8, 0.7)));
-  p.drawEllipse(QRectF(at(r, 0.7, 0.15), at(r, 0.9, 0.4)));
-  p.drawLine(at(r, 0.35, 0.7), at(r, 0.35, 0.95));
-  p.drawLine(at(r, 0.65, 0.7), at(r, 0.65, 0.95));
-}
-
-void bottle(QPainter& p, const QRectF& r, const QString& name) {
-  outlined(p, name.contains(QStringLiteral("Pine")) ? QColor(0x3a6a3a) : QColor(0x8a5a2a));
-  p.drawRoundedRect(QRectF(at(r, 0.32, 0.3), at(r, 0.68, 0.95)), 6, 6);
-  p.setBrush(QColor(0x202020));
-  p.drawRect(QRectF(at(r, 0.42, 0.12), at(r, 0.58, 0.3)));
-  p.setBrush(QColor(0xf4ead0));
-  p.drawRect(QRectF(at(r, 0.36, 0.5), at(r, 0.64, 0.75)));
-}
-
+// The skinning knife's fixed drop-point blade, the folder's black scales and bolsters, the saw.
 void knife(QPainter& p, const QRectF& r, const QString& name) {
-  outlined(p, QColor(0xc8ccd4));
-  p.drawPolygon(QPolygonF({at(r, 0.45, 0.35), at(r, 0.95, 0.35), at(r, 0.82, 0.55), at(r, 0.45, 0.55)}));
-  outlined(p, QColor(0x6a4222));
-  p.drawRoundedRect(QRectF(at(r, 0.08, 0.35), at(r, 0.45, 0.57)), 5, 5);
-  if (!name.contains(QStringLiteral("Saw"))) return;
-  p.setPen(QPen(QColor(0x5a5a60), 1));
+  const bool folder = has(name, "Folding");
+  const double tip = folder ? 0.8 : 0.95;
+  outlined(p, QColor(0xc8ccd4), r);
+  QPainterPath blade;
+  blade.moveTo(at(r, 0.45, 0.35));
+  blade.lineTo(at(r, tip - 0.15, 0.35));
+  blade.quadTo(at(r, tip, 0.38), at(r, tip, 0.45));
+  blade.quadTo(at(r, tip - 0.1, 0.58), at(r, 0.45, 0.55));
+  p.drawPath(blade);
+  outlined(p, folder ? QColor(0x1e1e1e) : QColor(0x6a4222), r);
+  p.drawRoundedRect(QRectF(at(r, 0.08, 0.35), at(r, 0.45, 0.57)), r.width() * 0.04, r.width() * 0.04);
+  outlined(p, QColor(0xb8bcc4), r);
+  if (folder)
+    for (const double x : {0.08, 0.4}) p.drawRect(QRectF(at(r, x, 0.35), at(r, x + 0.06, 0.57)));
+  if (!has(name, "Saw")) return;
+  p.setBrush(Qt::NoBrush);  // the saw's steel bow over its blade
+  p.setPen(QPen(QColor(0x8a8e96), r.width() / 25));
+  p.drawPolyline(QPolygonF({at(r, 0.45, 0.38), at(r, 0.45, 0.12), at(r, 0.9, 0.12), at(r, 0.9, 0.42)}));
+  p.setPen(QPen(QColor(0x5a5a60), r.width() / 100));
   for (double x = 0.5; x < 0.9; x += 0.04) p.drawLine(at(r, x, 0.55), at(r, x + 0.02, 0.6));
 }
 
 void tent(QPainter& p, const QRectF& r, const QString& name) {
-  const bool dome = name.contains(QStringLiteral("Dome")) || name.contains(QStringLiteral("Bivy"));
-  outlined(p, name.contains(QStringLiteral("Canvas")) ? QColor(0xd8c8a0) : QColor(0x4a6a3a));
-  if (dome) {
+  outlined(p, has(name, "Canvas") ? QColor(0xd8c8a0) : QColor(has(name, "Bivy") ? 0x8a7a3a : 0x4a6a3a), r);
+  if (has(name, "Bivy")) {  // a low tunnel for one, hooped at the head
+    p.drawChord(QRectF(at(r, 0.05, 0.6), at(r, 0.55, 1.3)), 0, 180 * 16);
+    p.drawPolygon(QPolygonF({at(r, 0.3, 0.6), at(r, 0.95, 0.85), at(r, 0.95, 0.95), at(r, 0.3, 0.95)}));
+    return;
+  }
+  if (has(name, "Dome")) {
     p.drawChord(QRectF(at(r, 0.1, 0.25), at(r, 0.9, 1.6)), 0, 180 * 16);
   } else {
     p.drawPolygon(QPolygonF(
@@ -198,53 +214,44 @@ void tent(QPainter& p, const QRectF& r, const QString& name) {
   p.drawPolygon(QPolygonF({at(r, 0.42, 0.95), at(r, 0.5, 0.55), at(r, 0.58, 0.95)}));
 }
 
+// A summer bag is an open rectangle; the warmer ones are mummies, the expedition bag the fattest.
 void sleepingBag(QPainter& p, const QRectF& r, const QString& name) {
-  outlined(p, name.contains(QStringLiteral("Expedition")) ? QColor(0xb02a20) : QColor(0x3a5a8a));
-  p.drawRoundedRect(QRectF(at(r, 0.1, 0.3), at(r, 0.9, 0.75)), 20, 20);
-  p.setPen(QPen(QColor(0, 0, 0, 70), 1.5));
-  for (double x = 0.25; x < 0.9; x += 0.13) p.drawLine(at(r, x, 0.32), at(r, x, 0.73));
+  const bool summer = has(name, "Summer");
+  const double half = has(name, "Expedition") ? 0.26 : 0.18;
+  outlined(p, QColor(summer ? 0x4a8a5a : has(name, "Expedition") ? 0xb02a20 : 0x3a5a8a), r);
+  if (summer) {
+    p.drawRect(QRectF(at(r, 0.1, 0.32), at(r, 0.9, 0.72)));
+    p.setBrush(QColor(0xe0c890));  // the flannel lining under the turned-back corner
+    p.drawPolygon(QPolygonF({at(r, 0.6, 0.32), at(r, 0.9, 0.32), at(r, 0.9, 0.72)}));
+    return;
+  }
+  p.drawPolygon(
+      QPolygonF({at(r, 0.05, 0.52 - half * 0.5), at(r, 0.3, 0.52 - half), at(r, 0.95, 0.52 - half * 0.7),
+                 at(r, 0.95, 0.52 + half * 0.7), at(r, 0.3, 0.52 + half), at(r, 0.05, 0.52 + half * 0.5)}));
+  p.setBrush(QColor(0x2a2018));
+  p.drawEllipse(at(r, 0.85, 0.52), r.width() * 0.05, r.height() * half * 0.4);  // the hood's face opening
+  p.setPen(QPen(QColor(0, 0, 0, 70), r.width() / 70));
+  for (double x = 0.25; x < 0.8; x += 0.1)
+    p.drawLine(at(r, x, 0.52 - half * 0.9), at(r, x, 0.52 + half * 0.9));
 }
 
 void pack(QPainter& p, const QRectF& r, const QString& name) {
-  if (name.contains(QStringLiteral("Cart"))) {
-    outlined(p, QColor(0x505458));
+  if (has(name, "Cart")) {
+    outlined(p, QColor(0x505458), r);
     p.drawRect(QRectF(at(r, 0.15, 0.35), at(r, 0.85, 0.6)));
     p.setBrush(QColor(0x202020));
     p.drawEllipse(at(r, 0.5, 0.72), r.height() * 0.18, r.height() * 0.18);
     return;
   }
-  outlined(p, QColor(0x6a6a42));
-  p.drawRoundedRect(QRectF(at(r, 0.25, 0.12), at(r, 0.75, 0.92)), 10, 10);
-  p.drawRoundedRect(QRectF(at(r, 0.32, 0.55), at(r, 0.68, 0.85)), 6, 6);
-  if (name.contains(QStringLiteral("Frame"))) {
-    p.setPen(QPen(QColor(0x909498), 3));
-    p.drawLine(at(r, 0.22, 0.05), at(r, 0.22, 0.98));
-    p.drawLine(at(r, 0.78, 0.05), at(r, 0.78, 0.98));
-  }
-}
-
-void safety(QPainter& p, const QRectF& r, const QString& name) {
-  if (name.contains(QStringLiteral("First Aid"))) {
-    outlined(p, QColor(0xb02a20));
-    p.drawRoundedRect(QRectF(at(r, 0.2, 0.25), at(r, 0.8, 0.85)), 6, 6);
-    p.setBrush(Qt::white);
-    p.setPen(Qt::NoPen);
-    p.drawRect(QRectF(at(r, 0.45, 0.35), at(r, 0.55, 0.75)));
-    p.drawRect(QRectF(at(r, 0.35, 0.5), at(r, 0.65, 0.6)));
-    return;
-  }
-  if (name.contains(QStringLiteral("Compass"))) {
-    outlined(p, QColor(0xc9a04a));
-    p.drawEllipse(at(r, 0.5, 0.55), r.height() * 0.35, r.height() * 0.35);
-    outlined(p, QColor(0xc02020));
-    p.drawPolygon(QPolygonF({at(r, 0.5, 0.25), at(r, 0.54, 0.55), at(r, 0.46, 0.55)}));
-    return;
-  }
-  // Radios, GPS, lamps, sprays and the rest: a handheld device with a lit face.
-  outlined(p, name.contains(QStringLiteral("Bear")) ? QColor(0xd02a20) : QColor(0x3a3c40));
-  p.drawRoundedRect(QRectF(at(r, 0.35, 0.12), at(r, 0.65, 0.95)), 8, 8);
-  p.setBrush(name.contains(QStringLiteral("Headlamp")) ? QColor(0xfff0a0) : QColor(0x9ac0a0));
-  p.drawRoundedRect(QRectF(at(r, 0.4, 0.22), at(r, 0.6, 0.45)), 3, 3);
+  const bool frame = has(name, "Frame");
+  const double top = frame ? 0.12 : 0.35;
+  outlined(p, frame ? QColor(0x6a6a42) : QColor(0x3a5a7a), r);
+  p.drawRoundedRect(QRectF(at(r, 0.28, top), at(r, 0.72, 0.92)), r.width() * 0.08, r.width() * 0.08);
+  p.drawRoundedRect(QRectF(at(r, 0.34, 0.62), at(r, 0.66, 0.86)), r.width() * 0.05, r.width() * 0.05);
+  if (!frame) return;
+  p.setPen(QPen(QColor(0x909498), r.width() / 30));
+  p.drawLine(at(r, 0.22, 0.05), at(r, 0.22, 0.98));
+  p.drawLine(at(r, 0.78, 0.05), at(r, 0.78, 0.98));
 }
 
 }  // namespace
@@ -253,22 +260,22 @@ void drawItem(QPainter& p, const QRectF& r, int kind, const QString& name) {
   p.save();
   p.setRenderHint(QPainter::Antialiasing);
   switch (kind) {
-    case 7: binoculars(p, r, name); break;
+    case 7: drawGlass(p, r, name); break;
     case 1: hat(p, r, name); break;
     case 2:
     case 3:
     case 4:
     case 5: garment(p, r, name, kind); break;
     case 6: boot(p, r, name); break;
-    case 8: call(p, r, name); break;
-    case 9: decoy(p, r, name); break;
+    case 8: drawCall(p, r, name); break;
+    case 9: drawDecoy(p, r, name); break;
     case 10:
-    case 11: bottle(p, r, name); break;
+    case 11: drawScent(p, r, name); break;
     case 12: knife(p, r, name); break;
     case 13: tent(p, r, name); break;
     case 14: sleepingBag(p, r, name); break;
     case 15: pack(p, r, name); break;
-    default: safety(p, r, name); break;
+    default: drawSafetyKit(p, r, name); break;
   }
   p.restore();
 }

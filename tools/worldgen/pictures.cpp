@@ -116,7 +116,7 @@ QImage unavailableTag() {
 
 }  // namespace
 
-void writePictures(const Content& c, const fs::path& root) {
+void writeGearPictures(const Content& c, const fs::path& root) {
   for (int row = 0; row < c.catalog.rows.size(); ++row) {
     const std::string id = cell(c.catalog, row, "ID").toStdString();
     const QString name = cell(c.catalog, row, "Item");
@@ -127,7 +127,14 @@ void writePictures(const Content& c, const fs::path& root) {
   for (int n = 1; n <= kWeaponCount; ++n) {
     save(weaponPicture(n, QSize(300, 100)), root / "pict" / ("weapon" + std::to_string(n) + ".bmp"));
     save(weaponPicture(n, QSize(32, 32)), root / "pict" / ("wicon" + std::to_string(n) + ".bmp"));
+    // The special-permit rack's own guns, for the rack to show when those worlds are in play.
+    save(weaponPicture(n, QSize(300, 100), true), root / "pict" / ("xweapon" + std::to_string(n) + ".bmp"));
+    save(weaponPicture(n, QSize(32, 32), true), root / "pict" / ("xwicon" + std::to_string(n) + ".bmp"));
   }
+}
+
+void writePictures(const Content& c, const fs::path& root) {
+  writeGearPictures(c, root);
   for (int s = 1; s <= kSpeciesCount; ++s) {
     save(tagPicture(s), root / "licnpics" / ("tag" + std::to_string(s) + ".bmp"));
     save(recordBookPicture(c, s), root / "art" / ("Trophy" + std::to_string(s) + ".bmp"));

@@ -12,4 +12,8 @@ namespace worldgen {
 
 void writePictures(const Content& c, const std::filesystem::path& root);
 
+// The catalogue's item pictures and icons and the gun rack's weapons and icons, the part of
+// the pictures that the catalogue's and the rack's own checks look at.
+void writeGearPictures(const Content& c, const std::filesystem::path& root);
+
 }  // namespace worldgen

@@ -8,7 +8,7 @@
 
 namespace worldgen {
 
-// Weapon 1..9 drawn at 300 x 100 scaled to `size`.
-QImage weaponPicture(int n, QSize size);
+// Weapon 1..9 of the standard or the special-permit rack drawn at 300 x 100 scaled to `size`.
+QImage weaponPicture(int n, QSize size, bool permit = false);
 
 }  // namespace worldgen
