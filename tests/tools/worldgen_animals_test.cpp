@@ -3,6 +3,8 @@
 // that says their range, and a click on the heart a heart hit whether the animal is
 // photographed or drawn.
 #include "shell/names.h"
+#include "tools/worldgen/animal_look.h"
+#include "tools/worldgen/animal_outline.h"
 #include "tools/worldgen/animal_photos.h"
 #include "tools/worldgen/animal_view.h"
 #include "tools/worldgen/clip_writer.h"
@@ -167,6 +169,54 @@ TEST(AnimalPhotographs, AuthoredHeartHeadAndGutLieOnTheCutOut) {
     }
   }
   EXPECT_EQ(photographed, 10);
+}
+
+double filledShare(const QImage& drawn, const HitZone& z) {
+  int filled = 0, all = 0;
+  for (int y = z.top; y <= z.bottom; ++y)
+    for (int x = z.left; x <= z.right; ++x, ++all) filled += qAlpha(drawn.pixel(x, y)) > 128;
+  return double(filled) / std::max(1, all);
+}
+
+QRect paintedBounds(const QImage& drawn) {
+  QRect r;
+  for (int y = 0; y < drawn.height(); ++y)
+    for (int x = 0; x < drawn.width(); ++x)
+      if (qAlpha(drawn.pixel(x, y)) > 128) r |= QRect(x, y, 1, 1);
+  return r;
+}
+
+// Drawn species with authored outlines: what is painted for body, head and horns fills the
+// boxes the shot tests, and nothing is painted above them or ahead of the nose.
+TEST(AnimalOutlines, AuthoredShapesFillTheZonesTheShotTests) {
+  setAnimalPhotoFolder({});
+  int outlined = 0;
+  for (int species = 1; species <= kSpeciesCount; ++species) {
+    if (!outlineOf(species)) continue;
+    ++outlined;
+    for (const int facing : {1, -1})
+      for (const double stride : {0.0, 0.3}) {
+        Pose pose;
+        pose.pixelsPerMetre = 120 / lookOf(species).metres;
+        pose.facing = facing;
+        pose.stride = stride;
+        pose.swing = 0.6;
+        const QImage drawn = animalAlone(species, pose);
+        const std::string name = speciesNameOf(species).toStdString();
+        QRect zones;
+        for (const HitZone& z : hitZonesOf(species, pose)) {
+          const double least = z.code == kHeadgearZone ? 0.15 : z.code == kLegZone ? 0.05 : 0.4;
+          EXPECT_GT(filledShare(drawn, z), least) << name << " zone " << z.code;
+          zones |= QRect(QPoint(z.left, z.top), QPoint(z.right, z.bottom));
+        }
+        const QRect painted = paintedBounds(drawn);
+        EXPECT_GE(painted.top(), zones.top() - 1) << name;
+        EXPECT_TRUE(facing > 0 ? painted.right() <= zones.right() + 1 : painted.left() >= zones.left() - 1)
+            << name;
+      }
+  }
+  EXPECT_EQ(outlined, 6);
+  setAnimalPhotoFolder("/usr/share/tuxpaint/stamps/animals");
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tools/worldgen/animal_figure.h"
 
+#include "tools/worldgen/animal_outline.h"
+
 #include <QPainterPath>
 
 #include <algorithm>
@@ -43,7 +45,7 @@ std::array<QLineF, 4> legsOf(const AnimalLook& l, const Pose& pose, const QRectF
 }
 
 QRectF headgearOf(const AnimalLook& l, const QRectF& head, double s, int facing) {
-  const double size[] = {0, 0.55, 0.3, 0.7, 0.22, 0.12, 0.2, 0.12};
+  const double size[] = {0, 0.55, 0.3, 0.7, 0.3, 0.17, 0.22, 0.12};
   const double h = size[int(l.headgear)] * s;
   if (h <= 0) return {};
   if (l.headgear == Headgear::Palmate)  // broad palms spread either side of the head
@@ -51,6 +53,43 @@ QRectF headgearOf(const AnimalLook& l, const QRectF& head, double s, int facing)
   const double w = l.headgear == Headgear::Curl ? head.width() * 0.9 : h * 1.1;
   const double back = facing > 0 ? head.left() - w * 0.35 : head.right() - w * 0.65;
   return {back, head.top() - h * 0.9, w, h};
+}
+
+// A point of an authored shape in its frame, mirrored when the animal faces left.
+QPointF inFrame(const QRectF& f, int facing, QPointF at) {
+  return {facing > 0 ? f.left() + at.x() * f.width() : f.right() - at.x() * f.width(),
+          f.top() + at.y() * f.height()};
+}
+
+QRectF frameOf(const Anatomy::Frames& f, OutlinePart part) {
+  const QRectF frames[] = {f.trunk, f.neck, f.head, f.headgear, f.tail};
+  return frames[int(part)];
+}
+
+QPainterPath shapePath(const OutlineShape& shape, const Anatomy::Frames& frames, int facing) {
+  QPolygonF points;
+  for (const QPointF& at : shape.points) points << inFrame(frameOf(frames, shape.part), facing, at);
+  QPainterPath path;
+  if (!shape.smooth) {
+    path.addPolygon(points);
+    path.closeSubpath();
+    return path;
+  }
+  const qsizetype n = points.size();
+  auto mid = [&](qsizetype i) { return (points[i % n] + points[(i + 1) % n]) / 2; };
+  path.moveTo(mid(n - 1));
+  for (qsizetype i = 0; i < n; ++i) path.quadTo(points[i], mid(i));
+  return path;
+}
+
+// The parts the shot tests are the bounds of what is drawn for them.
+void fitToOutline(Anatomy& a, const SpeciesOutline& outline, int facing) {
+  QRectF bounds[5];
+  for (const OutlineShape& shape : outline.shapes)
+    bounds[int(shape.part)] |= shapePath(shape, a.frames, facing).boundingRect();
+  a.trunk = bounds[int(OutlinePart::Trunk)];
+  a.head = bounds[int(OutlinePart::Head)];
+  a.headgear = bounds[int(OutlinePart::Headgear)];
 }
 
 }  // namespace
@@ -82,6 +121,12 @@ Anatomy anatomyOf(const AnimalLook& l, const Pose& pose) {
   a.vital = box(at(pose, s, centre, 0.22 * trunkW / s, -0.08 * l.bodyHeight), 0.24 * trunkW, 0.42 * trunkH);
   a.gut = box(at(pose, s, centre, -0.12 * trunkW / s, -0.18 * l.bodyHeight), 0.26 * trunkW, 0.38 * trunkH);
   a.tailBase = at(pose, s, centre, -0.5 * trunkW / s, 0.25 * l.bodyHeight);
+  const double tailW = l.tail * s * 0.8;
+  // Authored heads are drawn in a deeper frame than the plain oval, to carry ears and jaw.
+  a.frames = {a.trunk, a.neck.boundingRect(), box(a.head.center(), headW, headW * 0.62), a.headgear,
+              QRectF(pose.facing > 0 ? a.tailBase.x() - tailW : a.tailBase.x(), a.tailBase.y(), tailW,
+                     l.tail * s * 0.9)};
+  if (l.outline) fitToOutline(a, *l.outline, pose.facing);
   return a;
 }
 
@@ -247,6 +292,45 @@ void drawHead(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& po
   }
 }
 
+QColor toneOf(const AnimalLook& l, Tone tone) {
+  switch (tone) {
+    case Tone::Coat: return l.coat;
+    case Tone::Belly: return l.belly;
+    case Tone::Rump: return l.rump;
+    case Tone::Shade: return l.coat.darker(135);
+    case Tone::Horn: return l.outline->horn;
+    case Tone::Dark: break;
+  }
+  return QColor(0x141210);
+}
+
+// Lit from above: each shape pales at its top and darkens below, the body fading to its belly.
+void paintShape(QPainter& p, const QPainterPath& path, const OutlineShape& shape, const AnimalLook& l,
+                double rim) {
+  const QColor c = toneOf(l, shape.tone);
+  const QRectF b = path.boundingRect();
+  QLinearGradient shade(b.topLeft(), b.bottomLeft());
+  shade.setColorAt(0, c.lighter(118));
+  shade.setColorAt(0.6, c);
+  shade.setColorAt(1, shape.part == OutlinePart::Trunk && shape.tone == Tone::Coat ? l.belly : c.darker(125));
+  const bool outlined = shape.tone == Tone::Coat || shape.tone == Tone::Horn;
+  p.setPen(outlined ? QPen(c.darker(170), rim) : QPen(Qt::NoPen));
+  p.setBrush(shade);
+  p.drawPath(path);
+}
+
+// The tail behind the legs, or everything else in front of them.
+void drawOutlined(QPainter& p, const Anatomy& a, const AnimalLook& l, const Pose& pose, bool tail) {
+  const double rim = std::max(0.6, a.legWidth * 0.1);
+  QPainterPath neck;
+  neck.addPolygon(a.neck);
+  if (!tail) paintShape(p, neck, {OutlinePart::Neck, Tone::Coat, false, {}}, l, rim);
+  for (const OutlineShape& shape : l.outline->shapes) {
+    if ((shape.part == OutlinePart::Tail) != tail) continue;
+    paintShape(p, shapePath(shape, a.frames, pose.facing), shape, l, rim);
+  }
+}
+
 HitZone zoneOf(const QRectF& r, int code) {
   const QRect i = r.toAlignedRect().intersected(QRect(0, 0, 320, 240));
   if (i.isEmpty()) return {-10, -10, -10, -10, int16_t(code)};  // off screen: nothing to hit
@@ -270,11 +354,17 @@ void drawAnimal(QPainter& p, const AnimalLook& look, const Pose& pose) {
     p.rotate(pose.tilt * pose.facing);
     p.translate(-pose.x, -pose.ground);
   }
-  drawTail(p, a, look, pose);
-  drawLegs(p, a, look, pose);
-  drawTrunk(p, a, look, pose);
-  drawHead(p, a, look, pose);
-  drawHeadgear(p, a, look, pose);
+  if (look.outline) {
+    drawOutlined(p, a, look, pose, true);
+    drawLegs(p, a, look, pose);
+    drawOutlined(p, a, look, pose, false);
+  } else {
+    drawTail(p, a, look, pose);
+    drawLegs(p, a, look, pose);
+    drawTrunk(p, a, look, pose);
+    drawHead(p, a, look, pose);
+    drawHeadgear(p, a, look, pose);
+  }
   p.restore();
 }
 

@@ -39,6 +39,11 @@ struct Anatomy {
   QRectF gut;
   QPointF tailBase;
   double legWidth = 2;
+  // Where an authored outline's shapes are placed; its trunk, head and headgear boxes above
+  // are then the bounds of those shapes.
+  struct Frames {
+    QRectF trunk, neck, head, headgear, tail;
+  } frames;
 };
 
 struct HitZone {

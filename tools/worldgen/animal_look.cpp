@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tools/worldgen/animal_look.h"
 
+#include "tools/worldgen/animal_outline.h"
+
 #include <array>
 #include <stdexcept>
 
@@ -28,7 +30,7 @@ std::array<AnimalLook, 42> authoredLooks() {
       look(P::Bear, 2.2, 0.55, 0.42, 0.1, 0.27, 0.12, 0.03, 0x5a3a22, 0x4e321d, 0x5a3a22, 0x3a2514),
       look(P::Hoofed, 2.0, 0.48, 0.6, 0.3, 0.26, 0.05, 0.06, 0x6e5a44, 0xe8e0d0, 0xe8e0d0, 0x4a3a2c,
            H::CaribouRack),
-      look(P::Cat, 1.4, 0.32, 0.42, 0.12, 0.18, 0, 0.6, 0xa8845c, 0xe0cdb0, 0xa8845c, 0x93724e),
+      look(P::Cat, 1.4, 0.32, 0.42, 0.12, 0.2, 0, 0.6, 0xa8845c, 0xe0cdb0, 0xa8845c, 0x93724e),
       look(P::Hoofed, 1.5, 0.42, 0.6, 0.3, 0.25, 0, 0.12, 0x6a5846, 0xd8cfc0, 0x6a5846, 0x5a4a3a, H::Antlers),
       look(P::Dog, 1.0, 0.35, 0.55, 0.15, 0.25, 0, 0.4, 0x9a8466, 0xd9ccb4, 0x9a8466, 0x8a7458),
       look(P::Hoofed, 2.4, 0.46, 0.62, 0.4, 0.28, 0.04, 0.05, 0x8f6a45, 0x4a3322, 0xe0c890, 0x3d2a1a,
@@ -73,6 +75,7 @@ std::array<AnimalLook, 42> authoredLooks() {
   table[19].marking = Marking::BackStripes;  // striped skunk
   table[26].marking = Marking::WhiteHead;    // bald eagle
   table[16].marking = Marking::Mask;         // raccoon
+  for (size_t i = 0; i < table.size(); ++i) table[i].outline = outlineOf(int(i) + 1);
   return table;
 }
 

@@ -7,6 +7,8 @@
 
 namespace worldgen {
 
+struct SpeciesOutline;
+
 enum class BodyPlan { Hoofed, Bear, Cat, Dog, Small, Bird, WaderBird };
 // Markings a species is known by, beyond its coat, belly and rump.
 enum class Marking { None, WhiteHead, BackStripes, Mask };
@@ -28,6 +30,7 @@ struct AnimalLook {
   Headgear headgear = Headgear::None;
   bool beard = false;  // turkey's beard, goat's and bison's chin hair
   Marking marking = Marking::None;
+  const SpeciesOutline* outline = nullptr;  // authored shapes, where the plain figure would not read
 };
 
 // Animal 1..42.
