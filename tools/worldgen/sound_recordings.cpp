@@ -7,6 +7,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <array>
+
 namespace worldgen {
 
 namespace {
@@ -48,11 +50,16 @@ const Source kSources[] = {
 
 // Stereo at the player's rate down to mono at the world's: each pair of frames averaged.
 Samples decodeMono(const fs::path& file) {
-  platform::AvInput input(file);
-  if (input.error() != 0) return {};
-  const platform::AudioTrack track = platform::decodeAudioTrack(input);
-  const auto* pcm = reinterpret_cast<const int16_t*>(track.pcm.constData());
-  const size_t frames = size_t(track.pcm.size()) / platform::AudioTrack::kBytesPerFrame;
+  platform::AudioTrack track(file);
+  if (!track.hasSound()) return {};
+  // The recordings last seconds; the mixing wants them whole, read a chunk at a time.
+  constexpr int64_t kLongestMs = 60 * 60 * 1000;
+  track.setRange(0, kLongestMs);
+  QByteArray bytes;
+  std::array<char, 1 << 16> chunk{};
+  for (qint64 n; (n = track.read(chunk.data(), qint64(chunk.size()))) > 0;) bytes.append(chunk.data(), n);
+  const auto* pcm = reinterpret_cast<const int16_t*>(bytes.constData());
+  const size_t frames = size_t(bytes.size()) / platform::AudioTrack::kBytesPerFrame;
   static_assert(platform::AudioTrack::kRate == 2 * kSoundRate);
   Samples out(frames / 2);
   for (size_t i = 0; i < out.size(); ++i) {
