@@ -62,3 +62,18 @@ TEST(WorldgenSizes, TheFinePictureOfAWoodedStandShowsTheSameForest) {
 }
 
 }  // namespace
+
+TEST(WorldgenSizes, TheLodgeRangeAndMapAreTheSameRoomsAtEverySize) {
+  const auto broughtDown = [](const QImage& fine) {
+    return fine.scaled(kPanoramaWidth, kPanoramaHeight, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+        .convertToFormat(QImage::Format_RGB32);
+  };
+  const int w = kPanoramaWidth * kScale, h = kPanoramaHeight * kScale;
+  const QImage pairs[][2] = {{paintLodge({}), broughtDown(paintLodge({}, w, h))},
+                             {paintRange({}), broughtDown(paintRange({}, w, h))},
+                             {paintMap(u'T', {}), broughtDown(paintMap(u'T', {}, w, h))}};
+  for (const auto& [small, fine] : pairs) {
+    EXPECT_EQ(fine.size(), small.size());
+    EXPECT_LT(difference(small, fine, 0, kPanoramaHeight), 6);
+  }
+}
