@@ -154,9 +154,10 @@ TEST(WorldgenPanoramas, EveryManifestLoadsWithTheHotspotsOfItsPlace) {
                                : image.endsWith(QStringLiteral("f.jpg")) ? 6144
                                                                          : 2048;
           EXPECT_EQ(size.width(), expected) << file;
-          if (code == QStringLiteral("1")) {
-            EXPECT_EQ(size.width(), 6144) << file;
-          }
+        }
+        // Every place, the lodge, range and map too, is sharp at code "1".
+        if (code == QStringLiteral("1")) {
+          EXPECT_EQ(size.width(), 6144) << file;
         }
         ++manifests;
       }
@@ -168,11 +169,17 @@ TEST(WorldgenPanoramas, EveryManifestLoadsWithTheHotspotsOfItsPlace) {
 TEST(WorldgenPanoramas, ScenesJoinUpAtTheSeamOfTheTurn) {
   for (const QChar world : {u'P', u'D', u'B', u'T', u'Y'}) {
     const QImage strip = paintLandscape({world, QStringLiteral("seam"), 1024, 192, 0.5, true});
-    int differing = 0;
-    for (int y = 0; y < strip.height(); ++y)
-      differing += colourDistance(strip.pixel(0, y), strip.pixel(strip.width() - 1, y)) > 90;
-    // Neighbouring columns across the seam differ only where an edge happens to fall.
-    EXPECT_LT(differing, strip.height() / 8) << QString(world).toStdString();
+    const auto differing = [&](int left, int right) {
+      int rows = 0;
+      for (int y = 0; y < strip.height(); ++y)
+        rows += colourDistance(strip.pixel(left, y), strip.pixel(right, y)) > 90;
+      return rows;
+    };
+    // Neighbouring columns across the seam differ only where an edge happens to fall, no more
+    // than anywhere else in the strip: a trunk may end right at the seam.
+    int elsewhere = strip.height() / 8;
+    for (int x = 1; x < strip.width(); ++x) elsewhere = std::max(elsewhere, differing(x - 1, x));
+    EXPECT_LE(differing(strip.width() - 1, 0), elsewhere) << QString(world).toStdString();
   }
 }
 

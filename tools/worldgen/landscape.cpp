@@ -182,6 +182,9 @@ struct Canvas {
   const Scenery& s;
   double horizonY;
   double unit;  // pixels per unit of the reference 384-pixel-high strip
+
+  // The strip's width in units: counts go by it, so every size of a place holds the same things.
+  double span() const { return r.width / unit; }
 };
 
 // A skyline that repeats every turn: sines of whole turns, peaked for mountains, flat-topped
@@ -236,7 +239,7 @@ void paintSky(Canvas& c, StableRandom& rnd) {
   const double sunY = c.horizonY - c.r.height * rnd.between(0.1, 0.16);
   paintSun(c, sunX, sunY);
   // Long thin winter clouds, lit from below on the sun's side.
-  for (int i = 0; i < c.r.width / 110; ++i) {
+  for (int i = 0; i < int(c.span() / 110); ++i) {
     const double x = rnd.between(0, c.r.width), y = rnd.between(0.1, 0.7) * c.horizonY;
     const double cw = rnd.between(80, 300) * c.unit;
     const double nearSun = std::max(0.0, 1 - std::abs(x - sunX) / (c.r.width * 0.3));
@@ -317,7 +320,7 @@ void paintForestBand(Canvas& c, const RidgeLayer& layer, StableRandom& rnd) {
   const bool conifers = c.s.flora.woods != TreeKind::Hardwood;
   const Skyline skyline(c.s.relief, rnd);
   const QColor base = mixColour(c.s.forest, c.s.skyLow, layer.haze);
-  const int count = int(c.r.width / (conifers ? 2.2 : 3.0));
+  const int count = int(c.span() / (conifers ? 2.2 : 3.0));
   for (int i = 0; i < count; ++i) {
     const double x = rnd.between(0, c.r.width);
     const double top = layer.base - layer.amplitude * skyline.at(x, c.r.width);
@@ -421,7 +424,7 @@ void paintPonds(Canvas& c, const PlaceTraits& t, StableRandom& rnd) {
   for (int i = 0; i < count; ++i) {
     const double w = (t.lake ? 0.45 : rnd.between(0.08, 0.15)) * c.r.width;
     const double y = c.horizonY + rnd.between(0.06, t.lake ? 0.1 : 0.3) * (c.r.height - c.horizonY);
-    const double h = std::max(4.0, (y - c.horizonY) * (t.lake ? 1.4 : 0.5));
+    const double h = std::max(4 * c.unit, (y - c.horizonY) * (t.lake ? 1.4 : 0.5));
     const double x = rnd.between(0, c.r.width);
     drawAcrossSeam(x - w / 2, x + w / 2, c.r.width, c.r.seamless, [&](double shift) {
       StableRandom same(uint64_t(x * 31 + i));
@@ -436,7 +439,7 @@ TreeKind pickTree(const Scenery& s, const PlaceTraits& t, StableRandom& rnd) {
 
 // Trees in groves with open ground between, far ones first so near ones stand in front.
 void paintTrees(Canvas& c, const PlaceTraits& t, StableRandom& rnd) {
-  const int count = int(c.s.trees * t.treeFactor * c.r.width / 1000.0);
+  const int count = int(c.s.trees * t.treeFactor * c.span() / 1000.0);
   struct Stand {
     QPointF foot;
     TreeKind kind;
@@ -474,8 +477,8 @@ void paintTrees(Canvas& c, const PlaceTraits& t, StableRandom& rnd) {
 }
 
 void paintUndergrowth(Canvas& c, const PlaceTraits& t, StableRandom& rnd) {
-  const int shrubs = int(c.s.shrubs * t.shrubFactor * c.r.width / 1000.0);
-  const int rocks = int(c.s.rocks * t.rockFactor * c.r.width / 1000.0);
+  const int shrubs = int(c.s.shrubs * t.shrubFactor * c.span() / 1000.0);
+  const int rocks = int(c.s.rocks * t.rockFactor * c.span() / 1000.0);
   for (int i = 0; i < shrubs + rocks; ++i) {
     const double y = c.horizonY + std::pow(rnd.unit(), 1.5) * (c.r.height - c.horizonY);
     const double x = rnd.between(0, c.r.width), w = (4 + 60 * depthAt(c, y)) * c.unit;

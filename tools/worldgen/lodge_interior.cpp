@@ -513,18 +513,18 @@ QList<Spot> lodgeLayout(const QStringList& names, int width, int height) {
   return spots;
 }
 
-QImage paintLodge(const QList<Spot>& spots) {
-  QImage image(kPanoramaWidth, kPanoramaHeight, QImage::Format_RGB32);
+QImage paintLodge(const QList<Spot>& spots, int width, int height) {
+  QImage image(width, height, QImage::Format_RGB32);
   image.fill(QColor(0x4a2c18));  // the bands leave hairline gaps at their smoothed edges
   QPainter p(&image);
   p.setRenderHint(QPainter::Antialiasing);
   p.setRenderHint(QPainter::TextAntialiasing);
   p.setPen(Qt::NoPen);
-  const Room room(kPanoramaWidth, kPanoramaHeight);
+  const Room room(width, height);
   StableRandom rnd(QStringLiteral("lodge"));
   paintWalls(p, room, rnd);
   paintCeilingAndFloor(p, room);
-  const double w = kPanoramaWidth;
+  const double w = width;
   for (const auto& [x0, x1] : {std::pair{0.15, 0.188}, std::pair{0.925, 0.948}, std::pair{0.012, 0.024}})
     paintWindow(p, room, x0 * w, x1 * w, rnd);
   paintFireplace(p, room, 0.43 * w, 0.57 * w, rnd);

@@ -255,21 +255,21 @@ QList<Spot> mapLayout(const QStringList& names, int width, int height) {
   return spots;
 }
 
-QImage paintMap(QChar world, const QList<Spot>& spots) {
-  QImage image(kPanoramaWidth, kPanoramaHeight, QImage::Format_RGB32);
+QImage paintMap(QChar world, const QList<Spot>& spots, int width, int height) {
+  QImage image(width, height, QImage::Format_RGB32);
   image.fill(QColor(0xeadcb8));
   QPainter p(&image);
   p.setRenderHint(QPainter::Antialiasing);
   p.setRenderHint(QPainter::TextAntialiasing);
   p.setPen(Qt::NoPen);
   StableRandom rnd(QStringLiteral("map") + world);
-  Chart c{p, kPanoramaWidth, kPanoramaHeight, rnd};
+  Chart c{p, width, height, rnd};
   paintPaper(c);
   paintCountry(c, world);
   paintTrails(c, spots);
   for (const Spot& s : spots) paintPlaceMark(c, s);
   paintTitle(c, worldName(world) + QStringLiteral(" Hunting Grounds"));
-  paintCompass(c, QPointF(kPanoramaWidth * 0.24, kPanoramaHeight * 0.2), kPanoramaHeight * 0.07);
+  paintCompass(c, QPointF(width * 0.24, height * 0.2), height * 0.07);
   p.end();
   return image;
 }

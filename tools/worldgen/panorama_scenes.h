@@ -30,12 +30,13 @@ QImage paintOutdoorPlace(QChar world, const QString& variant, const QString& des
                          int height, const QList<Spot>& spots);
 // The tents or cabin, the fire and the truck of a world's camp; the truck is the way back.
 void paintCamp(QPainter& p, QChar world, int width, int height, const QList<Spot>& spots);
-QImage paintLodge(const QList<Spot>& spots);
+QImage paintLodge(const QList<Spot>& spots, int width = kPanoramaWidth, int height = kPanoramaHeight);
 // Where the counters, doors and people of the lodge stand.
 QList<Spot> lodgeLayout(const QStringList& names, int width, int height);
-QImage paintRange(const QList<Spot>& spots);
+QImage paintRange(const QList<Spot>& spots, int width = kPanoramaWidth, int height = kPanoramaHeight);
 QList<Spot> rangeLayout(const QStringList& names, int width, int height);
-QImage paintMap(QChar world, const QList<Spot>& spots);
+QImage paintMap(QChar world, const QList<Spot>& spots, int width = kPanoramaWidth,
+                int height = kPanoramaHeight);
 QList<Spot> mapLayout(const QStringList& names, int width, int height);
 
 }  // namespace worldgen

@@ -72,7 +72,7 @@ void writeFile(const fs::path& file, const QByteArray& bytes) {
 // The picture's file name: one per area and place, so both world groups share it.
 QString imageNameOf(const World& w, const Place& place, const Picture& picture) {
   if (place.name == QStringLiteral("3lodge") || place.name == QStringLiteral("3range"))
-    return place.name + ".jpg";
+    return place.name + QLatin1String(picture.mark) + ".jpg";
   QString kind = QStringLiteral("map");
   if (place.name == campName(w)) kind = QStringLiteral("camp");
   if (place.name == forkName(w)) kind = QStringLiteral("fork");
@@ -82,20 +82,14 @@ QString imageNameOf(const World& w, const Place& place, const Picture& picture) 
   return QString(w.letter) + kind + QLatin1String(picture.mark) + QStringLiteral(".jpg");
 }
 
-// The lodge, the range and the map are painted at one size whatever the code.
-bool paintedAtOneSize(const World& w, const Place& place) {
-  return place.name == QStringLiteral("3lodge") || place.name == QStringLiteral("3range") ||
-         place.name == mapName(w);
-}
-
 QImage paintPlace(const World& w, const Place& place, const QList<Spot>& spots, const Picture& picture) {
-  if (place.name == QStringLiteral("3lodge")) return paintLodge(spots);
-  if (place.name == QStringLiteral("3range")) return paintRange(spots);
-  if (place.name == mapName(w)) return paintMap(w.letter, spots);
+  const int width = kPanoramaWidth * picture.scale, height = kPanoramaHeight * picture.scale;
+  if (place.name == QStringLiteral("3lodge")) return paintLodge(spots, width, height);
+  if (place.name == QStringLiteral("3range")) return paintRange(spots, width, height);
+  if (place.name == mapName(w)) return paintMap(w.letter, spots, width, height);
   // Every size of a place shows the same scene: the painters' seed is the name of the small one.
   const QString variant = imageNameOf(w, place, kSmall).section(u'.', 0, 0);
-  QImage image = paintOutdoorPlace(w.letter, variant, place.description, kPanoramaWidth * picture.scale,
-                                   kPanoramaHeight * picture.scale, spots);
+  QImage image = paintOutdoorPlace(w.letter, variant, place.description, width, height, spots);
   if (picture.scale > 1) paintFineDetail(image, StableRandom::hashOf(variant));
   return image;
 }
@@ -117,7 +111,6 @@ class PanoramaWriter {
 
   void write(const World& w, const Place& place) {
     if (place.optics) return write(w, place, kOptics, {QStringLiteral("63")});
-    if (paintedAtOneSize(w, place)) return write(w, place, kSmall, {"6", "8", "1"});
     write(w, place, kSmall, {"6", "8"});
     write(w, place, kFine, {"1"});
   }

@@ -155,8 +155,8 @@ QList<Spot> rangeLayout(const QStringList& names, int width, int height) {
   return spots;
 }
 
-QImage paintRange(const QList<Spot>& spots) {
-  const int w = kPanoramaWidth, h = kPanoramaHeight;
+QImage paintRange(const QList<Spot>& spots, int width, int height) {
+  const int w = width, h = height;
   // Open snowy ground under the peaks, with no pond across the lanes.
   QImage image =
       paintLandscape({QChar(u'T'), QStringLiteral("range"), w, h, 0.5, true}, QStringLiteral("range"));
