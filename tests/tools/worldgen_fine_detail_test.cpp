@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 
 namespace worldgen {
@@ -54,9 +55,12 @@ TEST(FineDetail, TellsSurfacesByColourAndHowLowTheyLie) {
 }
 
 TEST(FineDetail, GrainsEverySurfaceButTheSkyAndKeepsItsTone) {
-  QImage sky = flat(qRgb(120, 160, 215));
-  paintFineDetail(sky, 1);
-  EXPECT_EQ(sky, flat(qRgb(120, 160, 215)));
+  // Seeds are names' hashes: their high half is as often above the largest int as not.
+  for (const uint64_t seed : {uint64_t{1}, uint64_t{0xF000002A00000000ull}}) {
+    QImage sky = flat(qRgb(120, 160, 215));
+    paintFineDetail(sky, seed);
+    EXPECT_EQ(sky, flat(qRgb(120, 160, 215))) << std::hex << seed;
+  }
   for (const QRgb colour : {qRgb(40, 70, 35), qRgb(80, 55, 35), qRgb(90, 140, 50), qRgb(120, 118, 112)}) {
     QImage image = flat(colour);
     paintFineDetail(image, 1);

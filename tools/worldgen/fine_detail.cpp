@@ -146,7 +146,9 @@ Surface surfaceOf(QRgb pixel, double depthShare) {
 void paintFineDetail(QImage& picture, uint64_t seed) {
   const Tile& tile = tileFor(picture.width());
   const auto shiftX = static_cast<int>(seed % static_cast<uint64_t>(tile.width));
-  const auto shiftY = static_cast<int>(seed >> 32) % kTileSize;
+  // Reduced before the cast: a seed's high half may not fit an int, and a negative shift
+  // would read rows before the tile.
+  const auto shiftY = static_cast<int>((seed >> 32) % kTileSize);
   const int height = picture.height();
   for (int y = 0; y < height; ++y) {
     auto* line = reinterpret_cast<QRgb*>(picture.scanLine(y));
