@@ -3,6 +3,7 @@
 // that says their range, and a click on the heart a heart hit whether the animal is
 // photographed or drawn.
 #include "shell/names.h"
+#include "tools/animal_alone.h"
 #include "tools/worldgen/animal_look.h"
 #include "tools/worldgen/animal_outline.h"
 #include "tools/worldgen/animal_photos.h"
@@ -55,14 +56,6 @@ int longestStretchMs(const QByteArray& zones, std::initializer_list<int> codes) 
     best = std::max(best, run);
   }
   return best * kSliceMs;
-}
-
-QImage animalAlone(int animal, const Pose& pose) {
-  QImage layer(kClipWidth, kClipHeight, QImage::Format_ARGB32);
-  layer.fill(Qt::transparent);
-  QPainter p(&layer);
-  drawAnimal(p, animal, pose);
-  return layer;
 }
 
 // Photographs where the package is installed, drawings where it is not; both must play.

@@ -5,6 +5,7 @@
 #include "platform/media/video_reader.h"
 #include "platform/panorama/panorama_manifest.h"
 #include "shell/names.h"
+#include "tools/animal_alone.h"
 #include "tools/worldgen/animal_figure.h"
 #include "tools/worldgen/animal_view.h"
 #include "tools/worldgen/clip_writer.h"
@@ -60,14 +61,6 @@ HitRecord recordAt(const QByteArray& file, int record) {
 // The record the game reads for a picture shown at `ms`.
 int recordFor(int64_t ms) {
   return std::max<int64_t>(1, ms / 360);
-}
-
-QImage animalAlone(int animal, const Pose& pose) {
-  QImage mask(kClipWidth, kClipHeight, QImage::Format_ARGB32);
-  mask.fill(Qt::transparent);
-  QPainter p(&mask);
-  drawAnimal(p, animal, pose);
-  return mask;
 }
 
 int colourDistance(QRgb a, QRgb b) {
